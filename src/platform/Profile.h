@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tavrin::platform {
+
+/// Reads strings of one profile (INI file) as the Windows profile functions do.
+///
+/// Made for a single read, or for many reads of a file that does not change while the reader
+/// lives: whether a change made meanwhile is seen is up to the platform. A file that is missing or
+/// cannot be read holds no sections.
+class ProfileReader {
+ public:
+  explicit ProfileReader(const std::wstring& path);
+  ~ProfileReader();
+  ProfileReader(const ProfileReader&) = delete;
+  ProfileReader& operator=(const ProfileReader&) = delete;
+
+  /// Copies the value of key in section into buffer and ends it with a NUL. A value longer than
+  /// size - 1 characters is cut; a missing one gives the empty text.
+  ///
+  /// REQUIRES: size is at least 1 and buffer holds size characters.
+  ///
+  /// @return the number of characters copied, without the NUL.
+  std::uint32_t Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
+                     std::uint32_t size) const;
+
+ private:
+  class Source;
+  std::unique_ptr<const Source> source_;
+};
+
+/// Writes key=value into section of the profile at path, creating file and section as needed. A
+/// null value removes the key's line instead.
+///
+/// @return false when the file could not be written.
+bool WriteProfileString(const wchar_t* section, const wchar_t* key, const wchar_t* value,
+                        const wchar_t* path);
+
+}  // namespace tavrin::platform
