@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tavrin {
+
+/// The size of the file at path, truncated to 32 bits; 0 when it is not a regular file or cannot be
+/// opened.
+std::uint32_t FileSizeOf(const std::string& path);
+
+/// Reads n bytes from the start of the file at path into block. A file that is shorter leaves the
+/// rest of block as it was.
+///
+/// @return false when block is null, n is 0 or the file cannot be opened.
+bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t n);
+
+/// Writes the n bytes of block to the file at path, replacing one that is there.
+///
+/// @return false when block is null, n is 0 or the file cannot be opened. Errors after the opening
+///         are not reported: success is judged by the opening alone.
+bool WriteFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n);
+
+/// WriteFileBytes to a new file that only the owner can read, where the platform has file modes; a
+/// file or link at path is replaced, never written through.
+bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n);
+
+}  // namespace tavrin

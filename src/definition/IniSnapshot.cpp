@@ -1,0 +1,14 @@
+#include "definition/IniSnapshot.h"
+
+namespace tavrin {
+
+IniSnapshot::IniSnapshot(const std::wstring& snapshotPath) : reader_(snapshotPath) {
+  path = snapshotPath;
+}
+
+bool IniSnapshot::ReadString(const std::wstring& section, const std::wstring& key,
+                             std::wstring* value) {
+  return ReadFrom(reader_, section, key, value);
+}
+
+}  // namespace tavrin

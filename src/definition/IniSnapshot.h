@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "definition/IniFile.h"
+#include "platform/Profile.h"
+
+namespace tavrin {
+
+/// An IniFile for reading many keys of a file that does not change meanwhile: the portable platform
+/// reads the file once instead of once a key.
+class IniSnapshot : public IniFile {
+ public:
+  explicit IniSnapshot(const std::wstring& snapshotPath);
+
+  using IniFile::ReadString;
+  bool ReadString(const std::wstring& section, const std::wstring& key,
+                  std::wstring* value) override;
+
+ private:
+  platform::ProfileReader reader_;
+};
+
+}  // namespace tavrin

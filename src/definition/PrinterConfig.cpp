@@ -1,0 +1,65 @@
+#include "definition/PrinterConfig.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "definition/FileCipher.h"
+#include "definition/IniSnapshot.h"
+#include "definition/IntegerConversion.h"
+#include "definition/PrintModes.h"
+#include "definition/PrinterSection.h"
+#include "definition/TemporaryPath.h"
+#include "definition/TextConversion.h"
+
+namespace tavrin {
+
+namespace {
+
+/// Removes a file at the end of a scope, also when the scope is left by an exhausted allocation.
+class FileRemoval {
+ public:
+  explicit FileRemoval(const std::string& path) : path_(path) {}
+  ~FileRemoval() { std::remove(path_.c_str()); }
+  FileRemoval(const FileRemoval&) = delete;
+  FileRemoval& operator=(const FileRemoval&) = delete;
+
+ private:
+  const std::string& path_;
+};
+
+}  // namespace
+
+bool PrinterConfig::Load(const std::string& path) {
+  Definition = std::make_unique<FileLoader>();
+  if (!Definition->LoadFromFile(path)) return false;
+  if (!DecryptBuffer(Definition->Data(), Definition->Size())) return false;
+
+  const std::string plainCopy = MakeTemporaryPath(path);
+  const FileRemoval removal(plainCopy);
+  // A copy that could not be written shows in what Parse finds at its path.
+  Definition->SaveToFile(plainCopy);
+  return Parse(plainCopy);
+}
+
+bool PrinterConfig::Parse(const std::string& path) {
+  IniSnapshot ini(WideCopy(path));
+  return ini.Exists() && ReadFrom(ini);
+}
+
+bool PrinterConfig::ReadFrom(IniFile& ini) {
+  if (!ReadPrinterSection(ini, this)) return false;
+  ReadModes(ini, this);
+  return true;
+}
+
+std::int32_t PrinterConfig::SideSupportThickness(std::int32_t modelHeight) const {
+  if (modelHeight < 1) return 0;
+  if (!(SupportExtendAngle > 0.0)) return SupportExtend;
+  constexpr double kPi = 3.141592653589793;
+  const std::int32_t height =
+      WrappingAdd(WrappingAdd(DetachLayerSize, SupportThickness), modelHeight);
+  const double growth = std::tan(SupportExtendAngle * kPi / 180.0) * height;
+  return WrappingAdd(SupportExtend, TruncateToInt32(growth));
+}
+
+}  // namespace tavrin

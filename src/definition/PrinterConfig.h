@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "definition/FileLoader.h"
+#include "definition/IniFile.h"
+#include "definition/M3DVector.h"
+#include "definition/ModeConfig.h"
+
+namespace tavrin {
+
+/// What the printer can do and how it is set up. Made with the defaults below, filled from one
+/// definition file, and only read afterwards.
+class PrinterConfig {
+ public:
+  PrinterConfig() = default;
+  virtual ~PrinterConfig() = default;
+  PrinterConfig(const PrinterConfig&) = delete;
+  PrinterConfig& operator=(const PrinterConfig&) = delete;
+
+  /// Reads, deciphers and parses the enciphered definition file at path. While it is parsed, a
+  /// plain copy lies in the temporary directory, for the profile functions read files alone; it is
+  /// removed whatever the outcome.
+  ///
+  /// @return false when the file is missing, empty or unreadable, or has no "Version".
+  virtual bool Load(const std::string& path);
+
+  /// Reads the plain definition file at path.
+  ///
+  /// @return false when it does not exist or has no "Version"; everything else that is missing or
+  ///         does not convert keeps the value that it had.
+  bool Parse(const std::string& path);
+
+  /// Parse on an opened file.
+  bool ReadFrom(IniFile& ini);
+
+  /// The thickness in µm of the support beside a model of the given height in µm: 0 for a height
+  /// below 1, the bare extent where the angle is not above 0.
+  std::int32_t SideSupportThickness(std::int32_t modelHeight) const;
+
+  std::string ModelName = "5RTV-207";
+  std::string Version;
+  M3DVector PrinterSize = {508.0, 508.0, 508.0};  ///< build volume in mm
+  std::int32_t PrintMargin = 5;  ///< µm; 5 µm, not 5 mm, is the machine's default
+  std::vector<std::unique_ptr<ModeConfig>> Modes;  ///< in the order of key "Mode"
+  std::int32_t CuttingMarginThickness = 0;         ///< µm
+  std::int32_t SupportThickness = 100;             ///< µm
+  std::int32_t SupportExtend = 1500;               ///< µm
+  double SupportExtendAngle = 1.5;                 ///< degrees
+  std::int32_t DetachLayerSize = 3000;             ///< µm
+  bool AntiAliasing = true;
+  bool Reverse = false;
+  bool WhiteWhite = false;
+  std::string IPAddress;
+  double HeadBandSize = 53.7;             ///< mm
+  std::int32_t DefaultMode = 2;           ///< a mode's number; not checked against Modes
+  std::int32_t CuttingMarginSetting = 0;  ///< setting number; 0: no cutting margin
+  std::int32_t SupportSize = 0;           ///< size code, -2 to 6; not checked
+  bool AutoCleaningEnabled = true;
+  bool NCUEnabled = false;
+  std::unique_ptr<FileLoader> Definition;  ///< the deciphered bytes of the file that Load read
+};
+
+}  // namespace tavrin

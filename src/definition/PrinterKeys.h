@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "definition/IniFile.h"
+
+namespace tavrin {
+
+/// The section that a definition has all of its keys in.
+inline constexpr char kPrinterSection[] = "printer";
+
+/// Reads a length that the definition gives in mm into a field in µm.
+///
+/// @return false, field untouched, when the key is missing or no number.
+bool ReadMicrometres(IniFile& ini, const std::string& key, std::int32_t* field);
+
+/// Reads a text and cuts it at its commas.
+///
+/// @return false when the key is missing; fields is then untouched.
+bool ReadList(IniFile& ini, const std::string& key, std::vector<std::string>* fields);
+
+}  // namespace tavrin

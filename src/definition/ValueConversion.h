@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tavrin {
+
+/// Converts the decimal integer at the start of text: leading white space is skipped, text after
+/// the number is ignored ("12abc" gives 12).
+///
+/// @return false, value untouched, when there are no digits or 32 bits cannot hold the number.
+bool ParseInt(const std::string& text, std::int32_t* value);
+bool ParseInt(const std::wstring& text, std::int32_t* value);
+
+/// Converts the number at the start of text ("1.5mm" gives 1.5), with the decimal point of the
+/// process's numeric locale: a full stop unless the host changed it.
+///
+/// @return false, value untouched, when there is no number or a double cannot hold it.
+bool ParseDouble(const std::string& text, double* value);
+bool ParseDouble(const std::wstring& text, double* value);
+
+/// The integer in decimal, without padding.
+std::string IntToString(std::int32_t value);
+
+/// Cuts text at its commas. Fields are not trimmed; one between two commas may be empty, and a
+/// comma at the end starts no further field.
+///
+/// @return whether there is any field.
+bool Split(const std::string& text, std::vector<std::string>* fields);
+
+}  // namespace tavrin
