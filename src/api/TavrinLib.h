@@ -1,0 +1,259 @@
+/// @file
+/// The exports of TavrinLib: what a host program asks of a full-colour 3D inkjet printer.
+///
+/// Conventions that hold for every function below:
+///
+/// 1. Result. Every function returns true for success and false for failure, as one byte.
+/// 2. Last-error code. A failure leaves its reason in one process-wide code (#TavrinErrorCode),
+///    which TavrinGetLastError() reads. A success never clears it: the code names the last failure,
+///    not the outcome of the last call, and is 0 until something has failed. A failure that is
+///    documented as recording nothing leaves the code as it was.
+/// 3. Order. TavrinInitialize() first, then any queries, then TavrinFinalize(). A query without a
+///    loaded printer definition fails with #ErrorNotInitialized and writes no output, except
+///    where its text says otherwise.
+/// 4. Units. Lengths are whole micrometres (µm), truncated toward zero from the millimetres of the
+///    definition file; only TavrinGetHeadBandSize() answers in millimetres. No range is imposed on
+///    what the file says: a negative length comes out of a uint32_t modulo 2^32, and one beyond
+///    32 bits as 0x80000000.
+/// 5. Strings. Paths and texts are NUL-terminated narrow strings in the process's code page: the
+///    ANSI code page on Windows, the locale's encoding elsewhere (UTF-8 where the environment names
+///    no usable locale).
+/// 6. Null. Output pointers must not be null, except where a function documents its answer.
+/// 7. Threads. Nothing is locked. Call from one thread at a time, and never initialise or finalise
+///    while another call runs.
+/// 8. Life. Answers are copied out and stay the caller's.
+/// 9. Memory. Only an exhausted allocation can leave a function as a C++ exception.
+#ifndef TAVRIN_LIB_H
+#define TAVRIN_LIB_H
+
+#ifndef __cplusplus
+#include <stdbool.h>
+#endif
+#include <stdint.h>
+
+/* Windows marks what a library exports and what its users import; elsewhere visibility does. */
+#if defined(_WIN32)
+#if defined(TAVRIN_BUILDING_LIBRARY)
+#define TAVRIN_API __declspec(dllexport)
+#else
+#define TAVRIN_API __declspec(dllimport)
+#endif
+#else
+#define TAVRIN_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// The last-error codes. No other value is ever stored.
+enum TavrinErrorCode {
+  /// Nothing has failed since the library was loaded. Only an initial value, never stored.
+  ErrorNone = 0,
+  /// The printer definition could not be loaded, or it could not answer the request.
+  ErrorFailed = 1,
+  /// No printer definition is loaded.
+  ErrorNotInitialized = 2,
+  /// The modeling conditions file could not be written.
+  ErrorWriteFailed = 3,
+  /// TavrinInitialize() was given a null path.
+  ErrorInvalidArgument = 4
+};
+
+/// Loads the enciphered printer definition file at path and makes it the one that every query
+/// answers from. A definition loaded earlier is released first, also when the new one then fails to
+/// load. While it loads, a plain copy of the definition lies in the temporary directory; it is
+/// removed before the call returns.
+///
+/// Keys that are missing or cannot be read take their defaults silently; only "Version" must be
+/// there.
+///
+/// @param path the definition file; null is answered as below.
+/// @return false with #ErrorInvalidArgument when path is null (the loaded definition stays);
+///         false with #ErrorFailed when the file is missing, empty, unreadable or holds no
+///         "Version" (no definition is loaded afterwards).
+TAVRIN_API bool TavrinInitialize(const char* path);
+
+/// Releases the loaded printer definition. Harmless when there is none. A host that ends without
+/// this call leaves the definition to the process's end.
+///
+/// Everything that is borrowed from the library ends with this call.
+///
+/// @return always true; the last-error code is left alone.
+TAVRIN_API bool TavrinFinalize(void);
+
+/// Reads the last-error code: the reason of the most recent failure that recorded one.
+///
+/// Later successes leave it in place, so ask right after a call that returned false.
+///
+/// @param code receives one of #TavrinErrorCode.
+/// @return always true, with or without a loaded definition.
+TAVRIN_API bool TavrinGetLastError(uint32_t* code);
+
+/// Asks for the build volume.
+///
+/// Each side is the definition's millimetres × 1000 truncated to a whole number; outside 32 bits it
+/// is handed out modulo 2^32.
+///
+/// @param x receives the width in µm.
+/// @param y receives the depth in µm.
+/// @param z receives the height in µm.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetAreaSize(uint32_t* x, uint32_t* y, uint32_t* z);
+
+/// Asks for the margin between the edge of the build volume and what is printed.
+///
+/// A definition that names none has 5 µm.
+///
+/// @param margin receives the print margin in µm.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetAreaMarginSize(uint32_t* margin);
+
+/// Asks how many print modes there are. Their indices for TavrinGetModeConfig() and
+/// TavrinGetWarpWarning() run from 0 to count - 1, in the order of the definition file.
+///
+/// Modes that the file lists but does not describe in full are not among them.
+///
+/// @param count receives the number of print modes; it is set to 0 also when the call fails.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetModeCount(uint32_t* count);
+
+/// Asks for the settings of one print mode.
+///
+/// - config[0]: the mode's number
+/// - config[1]: slice height in µm
+/// - config[2]: second value of the mode's pair
+/// - config[3]: first value of the mode's pair
+/// - config[4]: number of slices in the height of the build volume, or INT32_MIN where the slice
+///   height is 0
+/// - config[5]: how long the mode may run on as a limited one, or -1 where the file gives no limit
+///
+/// @param index position of the mode, from 0.
+/// @param config receives the six values.
+/// @return false with #ErrorNotInitialized when no definition is loaded; false, recording
+///         nothing, when there is no mode at index.
+TAVRIN_API bool TavrinGetModeConfig(int32_t index, int32_t config[6]);
+
+/// Asks for the thickness of the support under a model's top surfaces.
+///
+/// A definition that names none has 100 µm.
+///
+/// @param thickness receives the support thickness in µm.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetTopSupportThickness(uint32_t* thickness);
+
+/// Asks for the thickness of the support beside a model, which grows with the model's height: the
+/// support's extent, plus tan(extend angle) × (detach layer + support thickness + height).
+///
+/// @param modelHeight height of the model in µm.
+/// @param thickness receives the thickness in µm: 0 for a height below 1, the bare extent where the
+///        extend angle is not above 0.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetSideSupportThickness(int32_t modelHeight, uint32_t* thickness);
+
+/// Asks for the height of the layer that detaches a model from the build plate.
+///
+/// A definition that names none has 3000 µm.
+///
+/// @param height receives the height of the detach layer in µm.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetDetachLayerHeight(uint32_t* height);
+
+/// Asks whether edges are smoothed: the key "AntiAliasing".
+///
+/// On unless the definition turns it off.
+///
+/// @param enabled receives the switch.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetSmoothing(bool* enabled);
+
+/// Asks whether the printer prints in both directions of the feed: the key "Reverse".
+///
+/// Off unless the definition turns it on.
+///
+/// @param enabled receives the switch.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetFeedBiDirection(bool* enabled);
+
+/// Asks whether wrap reduction is on: the key "White_White".
+///
+/// Any number but 100 turns it on, 0 included; without the key it is off.
+///
+/// @param enabled receives the switch.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetWrapReduction(bool* enabled);
+
+/// Asks whether a print mode is a limited one, before which the host warns of warping: the key
+/// "LimitationMode" names it.
+///
+/// @param index position of the mode, from 0.
+/// @param limited receives whether the mode is limited.
+/// @return false with #ErrorNotInitialized when no definition is loaded; false, recording
+///         nothing, when there is no mode at index.
+TAVRIN_API bool TavrinGetWarpWarning(int32_t index, bool* limited);
+
+/// Asks for the printer's identity: three fields of 128 bytes each, holding the model name (at byte
+/// 0), the version (128) and the network address (256), filled up with zeros. A text of exactly 128
+/// bytes fills its field without a terminating NUL.
+///
+/// @param info receives 384 bytes; null is answered as below.
+/// @return false with #ErrorNotInitialized when no definition is loaded; false with
+///         #ErrorFailed when info is null or a text is longer than 128 bytes (the fields
+///         before it are then written).
+TAVRIN_API bool TavrinGetInfo(char info[384]);
+
+/// Asks for the width of the band that the print head covers in one pass.
+///
+/// The one length that is handed out in millimetres, just as the definition gives it; 53.7 mm where
+/// it gives none.
+///
+/// @param size receives the head band size in mm.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetHeadBandSize(double* size);
+
+/// Asks for the number of the print mode to offer first. It is a mode's number (config[0] of
+/// TavrinGetModeConfig()), not an index, and no mode need have it.
+///
+/// A definition that names none has 2.
+///
+/// @param number receives the mode number.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetDefaultPrintMode(uint32_t* number);
+
+/// Asks for the chipping allowance: the number of the cutting margin setting, not a thickness.
+///
+/// 0 stands for no cutting margin, which is also the default.
+///
+/// @param setting receives the setting number.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetChippingAllowance(uint32_t* setting);
+
+/// Asks for the support size code: from -2 (smallest) to 6 (largest), 0 being the default. Where
+/// the definition gives none it follows from the support's extent and angle; one that it gives is
+/// not checked.
+///
+/// @param size receives the code; convert it to int32_t to get the sign back.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetSupportSize(uint32_t* size);
+
+/// Asks whether the printer cleans its heads by itself: the key "AutoCleaningEnabled".
+///
+/// On unless the definition turns it off.
+///
+/// @param enabled receives the switch.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetAutoCleaning(bool* enabled);
+
+/// Asks whether the nozzles are checked while printing: the key "NCUEnabled".
+///
+/// Off unless the definition turns it on.
+///
+/// @param enabled receives the switch.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetCheckNozzleWhilePrinting(bool* enabled);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
