@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include "definition/FileCipher.h"
+#include "definition/PrinterConfig.h"
+#include "definition/TemporaryPath.h"
+#include "platform/StreamCipher.h"
+#include "support/TestFiles.h"
+
+namespace tavrin {
+
+// In place of the platform's cipher: one that always refuses.
+namespace platform {
+
+bool EncryptInPlace(const unsigned char*, std::uint32_t, unsigned char*, std::uint32_t) {
+  return false;
+}
+
+bool DecryptInPlace(const unsigned char*, std::uint32_t, unsigned char*, std::uint32_t) {
+  return false;
+}
+
+}  // namespace platform
+
+namespace {
+
+TEST(CipherFault, ARefusedDecipheringFailsTheLoadBeforeAnyPlainCopy) {
+  const test::TestFolder folder;
+  const std::string content = test::Definition("");
+  const std::string path = folder.Write("printer.dat", content);
+  const std::string copyPath = MakeTemporaryPath(path);
+  std::FILE* file = std::fopen(copyPath.c_str(), "wb");
+  ASSERT_NE(file, nullptr);
+  std::fputs("untouched", file);
+  std::fclose(file);
+
+  PrinterConfig config;
+  EXPECT_FALSE(config.Load(path));
+  EXPECT_EQ(test::ReadWhole(copyPath), "untouched");
+  ASSERT_NE(config.Definition, nullptr);
+  EXPECT_EQ(config.Definition->Size(), content.size()) << "the loader keeps the bytes";
+  std::filesystem::remove(copyPath);
+}
+
+}  // namespace
+}  // namespace tavrin

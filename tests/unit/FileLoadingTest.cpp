@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include "definition/FileBytes.h"
+#include "definition/FileLoader.h"
+#include "definition/IniFile.h"
+#include "definition/PrinterConfig.h"
+#include "definition/TemporaryPath.h"
+#include "definition/TextConversion.h"
+#include "support/TestFiles.h"
+
+namespace tavrin {
+namespace {
+
+using test::Definition;
+using test::ReadWhole;
+using test::TestFolder;
+
+TEST(Buffer, AllocationZeroesAndReplaces) {
+  Buffer buffer;
+  EXPECT_TRUE(buffer.IsEmpty());
+  EXPECT_TRUE(buffer.Release());
+  ASSERT_TRUE(buffer.Allocate(3));
+  buffer.Data()[2] = 'x';
+  ASSERT_TRUE(buffer.Allocate(4));
+  EXPECT_EQ(std::string(buffer.Data(), buffer.Data() + 4), std::string(4, '\0'));
+  EXPECT_FALSE(buffer.Allocate(0));
+  EXPECT_TRUE(buffer.IsEmpty());
+  EXPECT_EQ(buffer.Size(), 0u);
+}
+
+TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
+  const TestFolder folder;
+  const std::string content("a\r\n\x1A\0b", 6);
+  FileLoader loader;
+  EXPECT_FALSE(loader.SaveToFile(folder.PathOf("copy")));
+  EXPECT_FALSE(FileExists(WideCopy(folder.PathOf("copy"))));
+
+  ASSERT_TRUE(loader.LoadFromFile(folder.Write("file", content)));
+  EXPECT_EQ(std::string(loader.Data(), loader.Data() + loader.Size()), content);
+  ASSERT_TRUE(loader.SaveToFile(folder.Write("copy", "a longer file that is replaced")));
+  EXPECT_EQ(ReadWhole(folder.PathOf("copy")), content);
+
+  EXPECT_FALSE(loader.LoadFromFile(folder.Write("empty", "")));
+  EXPECT_TRUE(loader.IsEmpty());
+  EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("missing")));
+  EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("")));
+}
+
+TEST(FileBytes, AShortFileLeavesTheRestOfTheBlock) {
+  const TestFolder folder;
+  unsigned char block[] = {'1', '2', '3'};
+  EXPECT_TRUE(ReadFileBytes(folder.Write("file", "ab"), block, 3));
+  EXPECT_EQ(std::string(block, block + 3), "ab3");
+}
+
+TEST(TemporaryPath, NameComesFromTheHostAndTheDefinition) {
+  const struct {
+    const char* module;
+    const char* definition;
+    const char* name;
+  } cases[] = {
+      {"C:\\Program Files\\Modeler.exe", "D:\\cfg\\printer.dat", "Modeler_printer.bin"},
+      {"/opt/host/modeler", "printer", "modeler_printer.bin"},
+      {"/opt/ho.st/modeler", "cfg/a.b.ini", "modeler_a.b.bin"},
+      {"a.b.exe", "d.x\\printer", "a.b_printer.bin"},
+      {"", "", "_.bin"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(TemporaryName(c.module, c.definition), c.name);
+}
+
+TEST(TemporaryPath, LiesRightInTheTemporaryDirectory) {
+  const std::filesystem::path path = MakeTemporaryPath("cfg/printer.dat");
+  EXPECT_TRUE(
+      std::filesystem::equivalent(path.parent_path(), std::filesystem::temp_directory_path()));
+  const std::string name = path.filename().string();
+  EXPECT_NE(name.find("tavrin_unit_tests"), std::string::npos);
+  EXPECT_NE(name.find("_printer.bin"), std::string::npos);
+}
+
+TEST(Load, KeepsTheDecipheredBytesAndRemovesThePlainCopy) {
+  const TestFolder folder;
+  const std::string content = Definition("ModelName=M\n");
+  const std::string path = folder.WriteEnciphered("printer.dat", content);
+  PrinterConfig config;
+  ASSERT_TRUE(config.Load(path));
+  EXPECT_EQ(config.ModelName, "M");
+  EXPECT_EQ(
+      std::string(config.Definition->Data(), config.Definition->Data() + config.Definition->Size()),
+      content);
+  EXPECT_FALSE(std::filesystem::exists(MakeTemporaryPath(path)));
+
+  // Without "Version" the parse fails, and the copy goes all the same.
+  const std::string rejected = folder.WriteEnciphered("rejected.dat", "[printer]\nModelName=M\n");
+  EXPECT_FALSE(PrinterConfig().Load(rejected));
+  EXPECT_FALSE(std::filesystem::exists(MakeTemporaryPath(rejected)));
+}
+
+TEST(Load, WhatCannotBeReadMakesNoPlainCopy) {
+  const TestFolder folder;
+  for (const std::string& path :
+       {folder.PathOf("missing.dat"), folder.Write("empty.dat", ""), folder.PathOf("")}) {
+    // A file that lies where the copy would be tells whether one was made.
+    const std::string copyPath = MakeTemporaryPath(path);
+    std::FILE* file = std::fopen(copyPath.c_str(), "wb");
+    ASSERT_NE(file, nullptr);
+    std::fputs("untouched", file);
+    std::fclose(file);
+    EXPECT_FALSE(PrinterConfig().Load(path)) << path;
+    EXPECT_EQ(ReadWhole(copyPath), "untouched") << path;
+    std::filesystem::remove(copyPath);
+  }
+}
+
+TEST(Load, AnUnwritableCopyIsReadAsItLies) {
+  const TestFolder folder;
+  const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
+  const std::filesystem::path obstacle = MakeTemporaryPath(path);
+  std::filesystem::create_directories(obstacle / "in the way");
+  EXPECT_FALSE(PrinterConfig().Load(path));
+  EXPECT_TRUE(std::filesystem::remove_all(obstacle) > 0);
+  EXPECT_TRUE(PrinterConfig().Load(path));
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,102 @@
+// What the file system of this platform can put in a library's way: links, pipes, directories.
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "definition/FileBytes.h"
+#include "definition/PrinterConfig.h"
+#include "definition/TemporaryPath.h"
+#include "platform/HostPaths.h"
+#include "support/TestFiles.h"
+
+namespace tavrin {
+namespace {
+
+using test::Definition;
+using test::ReadWhole;
+using test::TestFolder;
+
+constexpr unsigned char kBlock[] = {'p', 'l', 'a', 'i', 'n'};
+
+mode_t ModeOf(const std::string& path) {
+  struct stat status {};
+  EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+  return status.st_mode;
+}
+
+TEST(PortableFiles, ThePlainCopyIsTheOwnersAlone) {
+  const TestFolder folder;
+  const mode_t previous = umask(0);
+  // A file of wider permissions that lay there before does not lend them to the copy.
+  const std::string path = folder.Write("copy", "older");
+  EXPECT_EQ(ModeOf(path) & 0777, 0666u);
+  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
+  umask(previous);
+  EXPECT_EQ(ModeOf(path) & 0777, 0600u);
+  EXPECT_EQ(ReadWhole(path), "plain");
+}
+
+TEST(PortableFiles, ThePlainCopyIsNeverWrittenThroughALink) {
+  const TestFolder folder;
+  const std::string target = folder.Write("target", "precious");
+  const std::string path = folder.PathOf("copy");
+  std::filesystem::create_symlink(target, path);
+  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
+  EXPECT_EQ(ReadWhole(target), "precious");
+  EXPECT_TRUE(S_ISREG(ModeOf(path)));
+
+  std::filesystem::remove(path);
+  std::filesystem::create_hard_link(target, path);
+  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
+  EXPECT_EQ(ReadWhole(target), "precious");
+
+  std::filesystem::create_directory(folder.PathOf("directory"));
+  EXPECT_FALSE(WriteOwnerOnlyFileBytes(folder.PathOf("directory"), kBlock, sizeof kBlock));
+}
+
+TEST(PortableFiles, OnlyRegularFilesLoad) {
+  const TestFolder folder;
+  const std::string pipe = folder.PathOf("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const std::string loop = folder.PathOf("loop");
+  std::filesystem::create_symlink(loop, loop);
+  for (const std::string& path : {pipe, loop, folder.PathOf(""), std::string("/dev/zero"),
+                                  std::string("/dev/full"), std::string(5000, 'x')}) {
+    EXPECT_EQ(FileSizeOf(path), 0u) << path;
+    unsigned char byte = 0;
+    EXPECT_FALSE(ReadFileBytes(path, &byte, 1)) << path;
+    EXPECT_FALSE(PrinterConfig().Load(path)) << path;
+  }
+  const std::string link = folder.PathOf("link.dat");
+  std::filesystem::create_symlink(folder.WriteEnciphered("printer.dat", Definition("")), link);
+  EXPECT_TRUE(PrinterConfig().Load(link)) << "a link to a regular file is one";
+}
+
+TEST(PortableFiles, APipeInThePlaceOfThePlainCopyDoesNotBlock) {
+  const TestFolder folder;
+  const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
+  ASSERT_EQ(mkfifo(MakeTemporaryPath(path).c_str(), 0600), 0);
+  EXPECT_TRUE(PrinterConfig().Load(path)) << "an own pipe is replaced";
+  EXPECT_FALSE(std::filesystem::exists(MakeTemporaryPath(path)));
+}
+
+TEST(PortableFiles, TmpdirNamesTheTemporaryDirectory) {
+  const char* chosen = std::getenv("TMPDIR");
+  const std::string previous = chosen != nullptr ? chosen : "";
+  const struct {
+    const char* value;
+    const char* directory;
+  } cases[] = {{"/var/tmp", "/var/tmp/"}, {"/var/tmp/", "/var/tmp/"}, {"", "/tmp/"}};
+  for (const auto& c : cases) {
+    setenv("TMPDIR", c.value, 1);
+    EXPECT_EQ(platform::GetTempDirectory(), c.directory);
+  }
+  unsetenv("TMPDIR");
+  EXPECT_EQ(platform::GetTempDirectory(), "/tmp/");
+  if (!previous.empty()) setenv("TMPDIR", previous.c_str(), 1);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,84 @@
+// How this platform's locale decides the narrow encoding.
+#include <cstdlib>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include "definition/PrinterConfig.h"
+#include "definition/TextConversion.h"
+#include "support/TestFiles.h"
+
+namespace tavrin {
+namespace {
+
+using test::Definition;
+using test::TestFolder;
+
+/// Runs a test under LC_ALL of its own.
+class LocaleChoice {
+ public:
+  explicit LocaleChoice(const char* locale) {
+    if (const char* previous = std::getenv("LC_ALL")) previous_ = previous;
+    setenv("LC_ALL", locale, 1);
+  }
+  ~LocaleChoice() { previous_ ? setenv("LC_ALL", previous_->c_str(), 1) : unsetenv("LC_ALL"); }
+  LocaleChoice(const LocaleChoice&) = delete;
+  LocaleChoice& operator=(const LocaleChoice&) = delete;
+
+ private:
+  std::optional<std::string> previous_;
+};
+
+TEST(PortableText, WithoutAUsableLocaleNarrowTextIsUtf8) {
+  for (const char* locale : {"C", "POSIX", "xx_YY.NONE", "C.UTF-8"}) {
+    const LocaleChoice choice(locale);
+    const struct {
+      const char* narrow;
+      const wchar_t* wide;
+    } cases[] = {
+        {"plain", L"plain"},
+        {"\xC3\xA9", L"\u00E9"},
+        {"\xE2\x82\xAC.", L"\u20AC."},
+        {"\xF0\x9F\x98\x80", L"\U0001F600"},
+        {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
+        {"", L""},
+    };
+    for (const auto& c : cases) {
+      EXPECT_EQ(WideCopy(c.narrow), c.wide) << locale << ' ' << c.narrow;
+      EXPECT_EQ(NarrowCopy(c.wide), c.narrow) << locale << ' ' << c.narrow;
+    }
+  }
+}
+
+TEST(PortableText, BytesThatAreNoUtf8ComeBackUnchanged) {
+  const LocaleChoice choice("C.UTF-8");
+  for (const char* path :
+       {"caf\xE9.dat", "\x80\xFF", "\xC0\xAF", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80",
+        "\xF4\x90\x80\x80", "\xE0\x80\x80", "a\xF0\x9F\x98"}) {
+    EXPECT_EQ(NarrowCopy(WideCopy(path)), path);
+  }
+}
+
+TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
+  const LocaleChoice choice("C.UTF-8");
+  EXPECT_EQ(WideCopy(std::string("a\0b", 3)), L"a");
+  EXPECT_EQ(NarrowCopy(std::wstring(L"a\0b", 3)), "a");
+  std::string narrow = "before";
+  EXPECT_TRUE(ToNarrow(std::wstring{L'a', wchar_t{0xD83D}}, &narrow));
+  EXPECT_EQ(narrow, "") << "what cannot be encoded empties the text";
+}
+
+TEST(PortableText, ADefinitionKeepsWhatTheEncodingCanDecode) {
+  const LocaleChoice choice("C");
+  const TestFolder folder;
+  PrinterConfig config;
+  ASSERT_TRUE(config.Load(
+      folder.WriteEnciphered("dr\xC3\xBC"
+                             "cker \xE9.dat",
+                             Definition("ModelName=caf\xE9\x80 \xC3\xA9\nPrintMargin=1\n"))));
+  EXPECT_EQ(config.ModelName, "caf\xEF\xBF\xBD\xEF\xBF\xBD \xC3\xA9");
+  EXPECT_EQ(config.PrintMargin, 1000);
+}
+
+}  // namespace
+}  // namespace tavrin
