@@ -1,6 +1,5 @@
 #include "definition/FileBytes.h"
 
-#include <cstdio>
 #include <fstream>
 
 #include "platform/Files.h"
@@ -30,9 +29,13 @@ bool WriteFileBytes(const std::string& path, const unsigned char* block, std::ui
   return true;
 }
 
+std::FILE* CreateOwnerOnlyFile(const std::string& path) {
+  return platform::CreateOwnerOnlyFile(path);
+}
+
 bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
   if (block == nullptr || n == 0) return false;
-  std::FILE* file = platform::CreateOwnerOnlyFile(path);
+  std::FILE* file = CreateOwnerOnlyFile(path);
   if (file == nullptr) return false;
   std::fwrite(block, 1, n, file);
   std::fclose(file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <string>
 
 namespace tavrin {
@@ -21,8 +22,13 @@ bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t 
 ///         are not reported: success is judged by the opening alone.
 bool WriteFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n);
 
-/// WriteFileBytes to a new file that only the owner can read, where the platform has file modes; a
-/// file or link at path is replaced, never written through.
+/// Creates the file at path for binary writing, in place of one that is there. Where the platform
+/// has file modes, only the owner can read it, and a link at path is replaced, never followed.
+///
+/// @return the open file, which the caller closes; null when it could not be created.
+std::FILE* CreateOwnerOnlyFile(const std::string& path);
+
+/// WriteFileBytes to a file from CreateOwnerOnlyFile.
 bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n);
 
 }  // namespace tavrin

@@ -58,7 +58,7 @@ bool IniFile::ReadString(const std::string& section, const std::string& key, std
 
 bool IniFile::WriteString(const std::wstring& section, const std::wstring& key,
                           const std::wstring& value) {
-  return platform::WriteProfileString(section.c_str(), key.c_str(), value.c_str(), path.c_str());
+  return platform::WriteProfileValue(section.c_str(), key.c_str(), value.c_str(), path.c_str());
 }
 
 bool IniFile::WriteString(const std::string& section, const std::string& key,
@@ -67,7 +67,7 @@ bool IniFile::WriteString(const std::string& section, const std::string& key,
 }
 
 bool IniFile::DeleteKey(const std::wstring& section, const std::wstring& key) {
-  return platform::WriteProfileString(section.c_str(), key.c_str(), nullptr, path.c_str());
+  return platform::WriteProfileValue(section.c_str(), key.c_str(), nullptr, path.c_str());
 }
 
 bool IniFile::ReadFrom(const platform::ProfileReader& reader, const std::wstring& section,

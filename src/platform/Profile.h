@@ -37,7 +37,7 @@ class ProfileReader {
 /// null value removes the key's line instead.
 ///
 /// @return false when the file could not be written.
-bool WriteProfileString(const wchar_t* section, const wchar_t* key, const wchar_t* value,
-                        const wchar_t* path);
+bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,
+                       const wchar_t* path);
 
 }  // namespace tavrin::platform

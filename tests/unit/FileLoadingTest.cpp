@@ -71,8 +71,7 @@ TEST(TemporaryPath, NameComesFromTheHostAndTheDefinition) {
 
 TEST(TemporaryPath, LiesRightInTheTemporaryDirectory) {
   const std::filesystem::path path = MakeTemporaryPath("cfg/printer.dat");
-  EXPECT_TRUE(
-      std::filesystem::equivalent(path.parent_path(), std::filesystem::temp_directory_path()));
+  EXPECT_EQ(path.parent_path() / "", std::filesystem::temp_directory_path() / "");
   const std::string name = path.filename().string();
   EXPECT_NE(name.find("tavrin_unit_tests"), std::string::npos);
   EXPECT_NE(name.find("_printer.bin"), std::string::npos);

@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -23,11 +24,14 @@ bool IsRegularFile(const std::string& path) {
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {
-  // Removing first takes an own file of wider permissions, or a link, out of the way; what cannot
-  // be removed makes the exclusive creation fail.
-  unlink(path.c_str());
-  const int descriptor =
-      open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  const auto create = [&] {
+    return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                S_IRUSR | S_IWUSR);
+  };
+  // Exclusively, so that an own file of wider permissions or a link is taken out of the way, not
+  // written to; what cannot be removed makes the creation fail.
+  int descriptor = create();
+  if (descriptor < 0 && errno == EEXIST && unlink(path.c_str()) == 0) descriptor = create();
   if (descriptor < 0) return nullptr;
   std::FILE* file = fdopen(descriptor, "wb");
   if (file == nullptr) close(descriptor);

@@ -1,6 +1,7 @@
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/portable/LocaleCodec.h"
 
@@ -8,42 +9,30 @@ namespace tavrin::platform {
 
 namespace {
 
+/// Copies text, up to its first NUL, if it is ASCII throughout. Every encoding that a locale can
+/// name has ASCII in its place, so plain names and numbers, nearly all there is, need no codec.
+template <typename From, typename To>
+bool CopyAscii(const From& text, To* copy) {
+  using Unit = typename From::value_type;
+  const auto ends = [](Unit c) { return c <= 0 || c >= 0x80; };
+  const auto end = std::find_if(text.begin(), text.end(), ends);
+  if (end != text.end() && *end != Unit{}) return false;
+  copy->resize(static_cast<std::size_t>(end - text.begin()));
+  std::transform(text.begin(), end, copy->begin(),
+                 [](Unit c) { return static_cast<typename To::value_type>(c); });
+  return true;
+}
+
 template <typename Text>
 Text UpToNul(const Text& text) {
   return text.substr(0, text.find(typename Text::value_type{}));
 }
 
-/// Every encoding that a locale can name has ASCII in its place, so plain names and numbers, which
-/// are nearly all there is, need no codec.
-template <typename Text>
-bool IsAscii(const Text& text) {
-  return std::all_of(text.begin(), text.end(), [](auto c) { return c >= 0 && c < 0x80; });
-}
-
-void Encode(const std::wstring& wide, std::string* narrow) {
-  if (IsAscii(wide)) {
-    narrow->resize(wide.size());
-    std::transform(wide.begin(), wide.end(), narrow->begin(),
-                   [](wchar_t c) { return static_cast<char>(c); });
-  } else if (!LocaleCodec().AppendNarrow(wide, narrow)) {
-    narrow->clear();
-  }
-}
-
-void Decode(const std::string& narrow, std::wstring* wide) {
-  if (IsAscii(narrow)) {
-    wide->assign(narrow.begin(), narrow.end());
-  } else {
-    LocaleCodec().AppendWide(narrow, LocaleCodec::Undecodable::Escape, wide);
-  }
-}
-
-template <typename From, typename To>
-bool Convert(const From& from, To* to, void (*convert)(const From&, To*)) {
+/// Runs a conversion, whose only failure is an exhausted memory.
+template <typename Convert>
+bool Succeeds(Convert convert) {
   try {
-    To converted;
-    convert(UpToNul(from), &converted);
-    *to = std::move(converted);
+    convert();
     return true;
   } catch (...) {
     return false;
@@ -53,11 +42,21 @@ bool Convert(const From& from, To* to, void (*convert)(const From&, To*)) {
 }  // namespace
 
 bool ToNarrow(const std::wstring& wide, std::string* narrow) {
-  return Convert(wide, narrow, Encode);
+  return Succeeds([&] {
+    if (CopyAscii(wide, narrow)) return;
+    std::string encoded;
+    if (!LocaleCodec().AppendNarrow(UpToNul(wide), &encoded)) encoded.clear();
+    *narrow = std::move(encoded);
+  });
 }
 
 bool ToWide(const std::string& narrow, std::wstring* wide) {
-  return Convert(narrow, wide, Decode);
+  return Succeeds([&] {
+    if (CopyAscii(narrow, wide)) return;
+    std::wstring decoded;
+    LocaleCodec().AppendWide(UpToNul(narrow), LocaleCodec::Undecodable::Escape, &decoded);
+    *wide = std::move(decoded);
+  });
 }
 
 }  // namespace tavrin::platform

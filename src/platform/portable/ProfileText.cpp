@@ -1,0 +1,184 @@
+#include "platform/portable/ProfileText.h"
+
+#include <algorithm>
+
+namespace tavrin::platform {
+
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+constexpr char32_t kFirstAstral = 0x10000;
+constexpr char32_t kLastCharacter = 0x10FFFF;
+constexpr char32_t kHighSurrogates = 0xD800;
+constexpr char32_t kLowSurrogates = 0xDC00;
+constexpr char32_t kSurrogatesPerHalf = 0x400;
+
+wchar_t Fold(wchar_t c) {
+  return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
+}
+
+/// Looks at every character, as that is quicker than stopping at the first that decides.
+template <typename Text>
+bool IsAscii(const Text& text) {
+  std::uint32_t bits = 0;
+  for (const auto c : text)
+    bits |= static_cast<std::uint32_t>(c);
+  return bits < 0x80;
+}
+
+bool IsAstral(wchar_t c) {
+  return static_cast<char32_t>(c) >= kFirstAstral;
+}
+
+bool IsSurrogateOf(char32_t half, char32_t c) {
+  return c >= half && c < half + kSurrogatesPerHalf;
+}
+
+std::wstring_view Unquote(std::wstring_view value) {
+  const bool isQuoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == L'"' || value.front() == L'\'');
+  return isQuoted ? value.substr(1, value.size() - 2) : value;
+}
+
+}  // namespace
+
+ProfileLine ParseLine(std::wstring_view line) {
+  using Kind = ProfileLine::Kind;
+  const std::wstring_view text = Trim(line);
+  if (text.empty()) return {};
+  if (text.front() == L';') return {Kind::Comment, {}, {}};
+  if (text.front() == L'[') return {Kind::Header, Spelled(text.substr(1, text.find(L']') - 1)), {}};
+  const std::size_t equals = text.find(L'=');
+  if (equals == std::wstring_view::npos) return {Kind::BareKey, Spelled(text), {}};
+  return {Kind::Key, Spelled(text.substr(0, equals)), Spelled(text.substr(equals + 1))};
+}
+
+std::wstring_view ReadableValue(std::wstring_view written) {
+  constexpr std::size_t kModulus = 0x10000;
+  const std::wstring_view value = Unquote(written);
+  if (value.size() < kModulus / 2) return value;
+  const auto astral = std::count_if(value.begin(), value.end(), IsAstral);
+  return CutToUnits(value, (value.size() + static_cast<std::size_t>(astral)) % kModulus);
+}
+
+std::wstring_view CutToUnits(std::wstring_view text, std::size_t limit) {
+  if (text.size() <= limit / 2) return text;
+  std::size_t length = 0;
+  for (std::size_t units = 0; length < text.size(); ++length) {
+    units += IsAstral(text[length]) ? 2 : 1;
+    if (units > limit) break;
+  }
+  return text.substr(0, length);
+}
+
+std::wstring_view StripSpaces(std::wstring_view name) {
+  while (!name.empty() && name.front() == L' ')
+    name.remove_prefix(1);
+  while (!name.empty() && name.back() == L' ')
+    name.remove_suffix(1);
+  return name;
+}
+
+bool SameName(std::wstring_view a, std::wstring_view b) {
+  const auto isSame = [](wchar_t c, wchar_t d) { return Fold(c) == Fold(d); };
+  return a.size() == b.size() && (std::equal(a.begin(), a.end(), b.begin()) ||
+                                  std::equal(a.begin(), a.end(), b.begin(), isSame));
+}
+
+std::uint64_t HashName(std::wstring_view name, std::uint64_t seed) {
+  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
+  // Bit 5 is what the cases of an ASCII letter differ in.
+  const auto fold = [](wchar_t c) { return std::uint64_t{static_cast<std::uint32_t>(c) | 0x20u}; };
+  std::uint64_t hash = (seed + 1) * kMultiplier;
+  for (; name.size() >= 2; name.remove_prefix(2)) {
+    hash = (hash ^ fold(name[0]) ^ fold(name[1]) << 32) * kMultiplier;
+  }
+  if (!name.empty()) hash = (hash ^ fold(name[0])) * kMultiplier;
+  return hash ^ hash >> 32;
+}
+
+void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
+  if (IsAscii(text)) {
+    const std::size_t length = wide->size();
+    wide->resize(length + text.size());
+    std::copy(text.begin(), text.end(), wide->data() + length);
+  } else {
+    Codec().AppendWide(text, LocaleCodec::Undecodable::Replace, wide);
+  }
+}
+
+void NarrowEncoding::AppendUnits(std::wstring_view wide, std::string* text) {
+  if (IsAscii(wide)) {
+    for (const wchar_t c : wide)
+      text->push_back(static_cast<char>(c));
+  } else {
+    Codec().AppendNarrow(wide, text);
+  }
+}
+
+const LocaleCodec& NarrowEncoding::Codec() {
+  if (!codec_) codec_.emplace();
+  return *codec_;
+}
+
+std::u16string Utf16Encoding::FromBytes(std::string_view bytes) {
+  std::u16string text(bytes.size() / 2, u'\0');
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto low = static_cast<unsigned char>(bytes[2 * i]);
+    const auto high = static_cast<unsigned char>(bytes[2 * i + 1]);
+    text[i] = static_cast<char16_t>(low | high << 8);
+  }
+  return text;
+}
+
+std::string Utf16Encoding::ToBytes(std::u16string_view text) {
+  std::string bytes;
+  bytes.reserve(2 * text.size());
+  for (const char16_t unit : text) {
+    bytes.push_back(static_cast<char>(unit & 0xFF));
+    bytes.push_back(static_cast<char>(unit >> 8));
+  }
+  return bytes;
+}
+
+void Utf16Encoding::AppendWide(std::u16string_view text, std::wstring* wide) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char32_t c = text[i];
+    const char32_t next = i + 1 < text.size() ? text[i + 1] : 0;
+    if (IsSurrogateOf(kHighSurrogates, c) && IsSurrogateOf(kLowSurrogates, next)) {
+      c = kFirstAstral + (c - kHighSurrogates) * kSurrogatesPerHalf + (next - kLowSurrogates);
+      ++i;
+    } else if (IsSurrogateOf(kHighSurrogates, c) || IsSurrogateOf(kLowSurrogates, c)) {
+      c = kReplacement;
+    }
+    wide->push_back(static_cast<wchar_t>(c));
+  }
+}
+
+void Utf16Encoding::AppendUnits(std::wstring_view wide, std::u16string* text) {
+  for (const wchar_t wideCharacter : wide) {
+    const auto c = static_cast<char32_t>(wideCharacter);
+    if (c > kLastCharacter) {
+      text->push_back(u'?');
+    } else if (c >= kFirstAstral) {
+      const char32_t offset = c - kFirstAstral;
+      text->push_back(static_cast<char16_t>(kHighSurrogates + offset / kSurrogatesPerHalf));
+      text->push_back(static_cast<char16_t>(kLowSurrogates + offset % kSurrogatesPerHalf));
+    } else {
+      text->push_back(static_cast<char16_t>(c));
+    }
+  }
+}
+
+std::wstring DecodeProfile(const std::string& bytes) {
+  std::wstring wide;
+  if (Utf16Encoding::HasMark(bytes)) {
+    const std::u16string text = Utf16Encoding::FromBytes(bytes);
+    Utf16Encoding::AppendWide(std::u16string_view(text).substr(Utf16Encoding::kMarkLength), &wide);
+  } else {
+    NarrowEncoding().AppendWide(bytes, &wide);
+  }
+  return wide;
+}
+
+}  // namespace tavrin::platform
