@@ -1,0 +1,91 @@
+// The contract of the profile functions beyond what single small files show, on every platform.
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "platform/Profile.h"
+#include "support/TestFiles.h"
+
+namespace tavrin {
+namespace {
+
+using platform::ProfileReader;
+using platform::WriteProfileValue;
+using test::ReadWhole;
+using test::TestFolder;
+
+std::wstring Wide(const std::string& path) {
+  return std::filesystem::path(path).wstring();
+}
+
+std::wstring Read(const std::wstring& path, const wchar_t* section, const wchar_t* key) {
+  std::vector<wchar_t> buffer(1000);
+  const std::uint32_t length = ProfileReader(path).Read(section, key, buffer.data(), 1000);
+  return {buffer.data(), length};
+}
+
+TEST(Profile, ReadsStayWithinTheBuffer) {
+  const TestFolder folder;
+  const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\r\nK=abcd\r\n")));
+  const struct {
+    std::uint32_t size;
+    const wchar_t* key;
+    const wchar_t* expected;
+  } cases[] = {
+      {1, L"K", L""},     {2, L"K", L"a"},   {4, L"K", L"abc"}, {5, L"K", L"abcd"},
+      {6, L"K", L"abcd"}, {1, L"none", L""}, {6, L"none", L""},
+  };
+  for (const auto& c : cases) {
+    std::wstring buffer(c.size + 1, L'#');
+    const std::uint32_t length = reader.Read(L"S", c.key, buffer.data(), c.size);
+    EXPECT_EQ(buffer.substr(0, length), c.expected) << c.size;
+    EXPECT_EQ(buffer[length], L'\0') << c.size;
+    EXPECT_EQ(buffer.back(), L'#') << c.size;
+  }
+}
+
+TEST(Profile, KeysAndSectionsOfOneNameStayApart) {
+  const TestFolder folder;
+  for (const char* content : {"S=x\n[S]\nK=v\n", "[K]\nS=x\nK=x\n[S]\nK=v\n"})
+    EXPECT_EQ(Read(Wide(folder.Write("a.ini", content)), L"S", L"K"), L"v") << content;
+}
+
+TEST(Profile, PathsThatAreNoFileReadAsEmptyAndRefuseWrites) {
+  const TestFolder folder;
+  for (const std::string& path : {folder.PathOf("no folder/a.ini"), folder.PathOf("")}) {
+    EXPECT_EQ(Read(Wide(path), L"S", L"K"), L"") << path;
+    EXPECT_FALSE(WriteProfileValue(L"S", L"K", L"v", Wide(path).c_str())) << path;
+  }
+}
+
+TEST(Profile, AFreshReaderSeesWhatWasWritten) {
+  const TestFolder folder;
+  const std::wstring path = Wide(folder.PathOf("a.ini"));
+  EXPECT_EQ(Read(path, L"S", L"K"), L"");
+  EXPECT_TRUE(WriteProfileValue(L"S", L"K", L"1", path.c_str()));
+  EXPECT_EQ(Read(path, L"s", L"k"), L"1");
+  EXPECT_TRUE(WriteProfileValue(L"s", L"k", L"2", path.c_str()));
+  EXPECT_EQ(Read(path, L"S", L"K"), L"2");
+  EXPECT_TRUE(WriteProfileValue(L"S", L"K", nullptr, path.c_str()));
+  EXPECT_EQ(Read(path, L"S", L"K"), L"");
+  EXPECT_EQ(ReadWhole(folder.PathOf("a.ini")), "[S]\r\n");
+}
+
+TEST(Profile, CallsThatChangeNothingLeaveTheFileAlone) {
+  const TestFolder folder;
+  const std::string content = "[S]\n K = 1 \n;c\n\nL=2";
+  const std::string file = folder.Write("a.ini", content);
+  const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
+  std::filesystem::last_write_time(file, longAgo);
+  EXPECT_TRUE(WriteProfileValue(L"S", L"K", L"1", Wide(file).c_str()));
+  EXPECT_TRUE(WriteProfileValue(L"S", L"none", nullptr, Wide(file).c_str()));
+  EXPECT_TRUE(WriteProfileValue(L"none", L"K", nullptr, Wide(file).c_str()));
+  EXPECT_EQ(ReadWhole(file), content);
+  EXPECT_EQ(std::filesystem::last_write_time(file), longAgo);
+}
+
+}  // namespace
+}  // namespace tavrin
