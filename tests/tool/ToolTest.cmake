@@ -1,0 +1,135 @@
+# Runs the tool as its users do: cmake -DTOOL=... -DEXAMPLES=... -DWORK=... -P ToolTest.cmake
+#   TOOL      the tool's command, behind its emulator where it needs one
+#   EXAMPLES  the directory of the example INI files
+#   WORK      a directory of the test's own, emptied first
+cmake_minimum_required(VERSION 3.22)
+
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK}/directory)
+file(COPY ${EXAMPLES}/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
+# Wine's own remarks would mix with the tool's messages.
+set(ENV{WINEDEBUG} -all)
+
+# Files take the output, because processes that an emulator leaves running would hold a pipe open.
+macro(run)
+  execute_process(COMMAND ${TOOL} ${ARGN} WORKING_DIRECTORY ${WORK}
+    RESULT_VARIABLE result OUTPUT_FILE ${WORK}/output ERROR_FILE ${WORK}/message)
+  file(READ ${WORK}/output output)
+  file(READ ${WORK}/message message)
+  string(REPLACE "\r\n" "\n" output "${output}")
+  string(REPLACE "\r\n" "\n" message "${message}")
+endmacro()
+
+function(check what)
+  if(NOT (${ARGN}))
+    message(SEND_ERROR "${what}\nresult: ${result}\noutput: ${output}\nmessage: ${message}")
+  endif()
+endfunction()
+
+macro(succeed)
+  run(${ARGN})
+  check("tavrin ${ARGN}" result EQUAL 0 AND NOT message)
+endmacro()
+
+# The message is one line that names the reason and, in parentheses, a remedy.
+macro(refuse expected reason)
+  run(${ARGN})
+  check("tavrin ${ARGN}: not refused as '${reason}'"
+    result EQUAL ${expected} AND message MATCHES "^tavrin: [^\n]*${reason}[^\n]*\\([^\n]+\\)\n$")
+endmacro()
+
+function(expect_same a b)
+  file(SHA256 ${WORK}/${a} hash_a)
+  file(SHA256 ${WORK}/${b} hash_b)
+  check("${a} and ${b} differ" hash_a STREQUAL hash_b)
+endfunction()
+
+function(expect_shown)
+  foreach(line IN LISTS ARGN)
+    string(REPLACE " " " +" pattern "${line}")
+    check("show: no line '${line}'" output MATCHES "\n ? ?${pattern}\n")
+  endforeach()
+endfunction()
+
+# The keystream itself, against a known answer: what 32 zero bytes are enciphered to.
+set(keystream 71df958404198be54b20bf6042f2f4a9b65072b35a395b767809b989eda606e3)
+string(REGEX MATCHALL ".." pairs ${keystream})
+foreach(pair IN LISTS pairs)
+  math(EXPR number "0x${pair}")
+  list(APPEND numbers ${number})
+endforeach()
+string(ASCII ${numbers} bytes)
+file(WRITE ${WORK}/keystream.dat "${bytes}")
+succeed(decipher keystream.dat zeros.ini)
+file(READ ${WORK}/zeros.ini zeros HEX)
+string(REPEAT 0 64 expected)
+check("keystream" zeros STREQUAL expected)
+succeed(encipher zeros.ini zeros.dat)
+expect_same(zeros.dat keystream.dat)
+
+foreach(example full-colour compact minimal)
+  succeed(encipher ${example}.ini ${example}.dat)
+  succeed(decipher ${example}.dat ${example}.plain)
+  expect_same(${example}.plain ${example}.ini)
+endforeach()
+
+succeed(encipher compact.ini replaced.dat)
+succeed(encipher minimal.ini replaced.dat)
+expect_same(replaced.dat minimal.dat)
+
+# Line ends and all else come through standard output as they are.
+execute_process(COMMAND ${TOOL} decipher full-colour.dat WORKING_DIRECTORY ${WORK}
+  OUTPUT_FILE ${WORK}/standard-output RESULT_VARIABLE result)
+check("decipher to standard output" result EQUAL 0)
+expect_same(standard-output full-colour.ini)
+
+succeed(show full-colour.dat)
+expect_shown("Model name Tavrin FC-500" "Version 2.4.1" "Network address 192.0.2.50"
+  "Width 500.000 mm" "Depth 480.000 mm" "Height 300.000 mm" "Print margin 5.000 mm"
+  " 0 2 32 600 4 9375 no none" " 5 11 80 300 1 3750 yes 2" "Default mode number 2 \\(index 0\\)"
+  "Top thickness 0.150 mm" "Side thickness at 10 mm 2.476 mm" "Detach layer 3.500 mm"
+  "Size code \\(-2 to 6\\) 2" "Smoothing on" "Wrap reduction on" "Head band 53.7 mm"
+  "Chipping allowance setting 2")
+succeed(show minimal.dat)
+expect_shown("Model name 5RTV-207" "Width 508.000 mm" "Number of modes 0"
+  "Default mode number 2 \\(no mode has it\\)" "Chipping allowance none")
+
+string(REPEAT a 129 long)
+file(WRITE ${WORK}/long.ini "[printer]\nVersion=1\nIPAddress=${long}\n")
+succeed(encipher long.ini long.dat)
+refuse(1 "longer than 128 bytes" show long.dat)
+expect_shown("Version 1" "Network address not handed out" "Width 508.000 mm" "Head band 53.7 mm")
+
+file(WRITE ${WORK}/empty "")
+file(WRITE ${WORK}/no-version.ini "[printer]\nModelName=a\n")
+succeed(encipher no-version.ini no-version.dat)
+file(WRITE ${WORK}/kept "kept")
+file(CREATE_LINK ${WORK}/compact.ini ${WORK}/hard-link.ini)
+foreach(command encipher decipher)
+  refuse(1 "missing: does not exist" ${command} missing kept)
+  refuse(1 "directory: is a directory" ${command} directory kept)
+  refuse(1 "empty: is empty" ${command} empty kept)
+  refuse(1 "directory: is a directory" ${command} compact.ini directory)
+  refuse(1 "is the input file itself" ${command} compact.ini directory/../compact.ini)
+  refuse(1 "is the input file itself" ${command} compact.ini hard-link.ini)
+  refuse(1 "lies in no existing directory" ${command} compact.ini nowhere/output)
+endforeach()
+refuse(1 "missing: does not exist" show missing)
+refuse(1 "directory: is a directory" show directory)
+refuse(1 "empty: is empty" show empty)
+refuse(1 "plain INI file" show compact.ini)
+refuse(1 "cannot be loaded" show no-version.dat)
+refuse(2 "A command is required")
+refuse(2 "not expected: encypher" encypher)
+refuse(2 "DEFINITION is required" encipher compact.ini)
+
+file(READ ${WORK}/kept kept)
+check("an output of a refused command changed" kept STREQUAL "kept")
+expect_same(compact.ini compact.plain)
+file(GLOB leftovers ${WORK}/*.tmp ${WORK}/*/*.tmp ${WORK}/nowhere)
+check("left behind: ${leftovers}" NOT leftovers)
+
+foreach(command encipher decipher show)
+  succeed(${command} --help)
+  check("${command} --help has no example" output MATCHES "Example: tavrin ${command} ")
+endforeach()

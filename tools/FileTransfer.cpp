@@ -1,0 +1,134 @@
+#include "FileTransfer.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+#include <system_error>
+
+#include "Failure.h"
+#include "FilePath.h"
+#include "StandardOutput.h"
+#include "TemporaryFile.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+/// A single transfer stays below the 2 GiB that some runtimes take at once.
+constexpr std::size_t kPieceSize = std::size_t{64} << 20;
+
+std::string SystemMessage() {
+  return std::generic_category().message(errno);
+}
+
+/// Refuses what exists and is not a regular file.
+void CheckType(const std::string& file, std::filesystem::file_status status) {
+  if (std::filesystem::is_directory(status)) throw Failure(file, "is a directory", "name a file");
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    throw Failure(file, "is not a regular file", "name a file on a disk");
+  }
+}
+
+std::filesystem::file_status StatusOf(const std::string& file) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(ToPath(file), error);
+  if (!std::filesystem::status_known(status)) {
+    throw Failure(file, "cannot be reached: " + error.message(), "check its path and permissions");
+  }
+  return status;
+}
+
+bool WriteAll(std::FILE* stream, const Bytes& bytes) {
+  for (std::size_t done = 0; done < bytes.size();) {
+    const std::size_t piece = std::min(kPieceSize, bytes.size() - done);
+    if (std::fwrite(bytes.data() + done, 1, piece, stream) != piece) return false;
+    done += piece;
+  }
+  return std::fflush(stream) == 0;
+}
+
+bool ReadAll(std::istream& stream, Bytes* bytes) {
+  for (std::size_t done = 0; done < bytes->size();) {
+    const std::size_t piece = std::min(kPieceSize, bytes->size() - done);
+    if (!stream.read(reinterpret_cast<char*>(bytes->data() + done),
+                     static_cast<std::streamsize>(piece))) {
+      return false;
+    }
+    done += piece;
+  }
+  return stream.peek() == std::istream::traits_type::eof();
+}
+
+/// The file that is replaced: a link stays and its target gets the bytes.
+std::filesystem::path FollowLink(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_symlink(file, error)) return file;
+  const std::filesystem::path target = std::filesystem::canonical(file, error);
+  return error ? file : target;
+}
+
+}  // namespace
+
+std::uint32_t CheckInput(const std::string& file) {
+  const std::filesystem::file_status status = StatusOf(file);
+  if (!std::filesystem::exists(status)) throw Failure(file, "does not exist", "check its path");
+  CheckType(file, status);
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(ToPath(file), error);
+  if (error) throw Failure(file, "has no size: " + error.message(), "check its permissions");
+  if (size == 0) throw Failure(file, "is empty", "name a file with content");
+  if (size > std::numeric_limits<std::uint32_t>::max()) {
+    throw Failure(file, "is larger than 4294967295 bytes", "no definition can be that long");
+  }
+  return static_cast<std::uint32_t>(size);
+}
+
+void CheckOutput(const std::string& input, const std::string& output) {
+  CheckType(output, StatusOf(output));
+  const std::filesystem::path path = ToPath(output);
+  if (!path.has_filename()) throw Failure(output, "names no file", "add a file name");
+  std::error_code error;
+  if (std::filesystem::equivalent(ToPath(input), path, error)) {
+    throw Failure(output, "is the input file itself", "name another output file");
+  }
+  const std::filesystem::path directory = path.has_parent_path() ? path.parent_path() : ".";
+  if (!std::filesystem::is_directory(directory, error)) {
+    throw Failure(output, "lies in no existing directory", "create the directory first");
+  }
+}
+
+Bytes ReadFile(const std::string& file) {
+  Bytes bytes(CheckInput(file));
+  std::ifstream stream(ToPath(file), std::ios::binary);
+  if (!stream) throw Failure(file, "cannot be read: " + SystemMessage(), "check its permissions");
+  if (!ReadAll(stream, &bytes)) {
+    throw Failure(file, "could not be read whole", "make sure that nothing else changes it");
+  }
+  return bytes;
+}
+
+void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions) {
+  const std::filesystem::path target = FollowLink(ToPath(file));
+  TemporaryFile temporary(target);
+  if (temporary.Stream() == nullptr || !WriteAll(temporary.Stream(), bytes) || !temporary.Close()) {
+    throw Failure(file, "cannot be written: " + SystemMessage(),
+                  "check the directory's permissions and free space");
+  }
+  std::error_code error;
+  if (!temporary.Rename(permissions, &error)) {
+    throw Failure(file, "cannot be replaced: " + error.message(),
+                  "check its name and permissions, and that no program has it open");
+  }
+}
+
+void WriteStandardOutput(const Bytes& bytes) {
+  MakeStandardOutputBinary();
+  if (!WriteAll(stdout, bytes)) {
+    throw Failure("standard output", "cannot be written: " + SystemMessage(),
+                  "check where it leads to");
+  }
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tavrin::tool {
+
+using Bytes = std::vector<unsigned char>;
+
+/// Refuses a file that cannot hold a definition: one that is missing, empty, not a regular file or
+/// longer than the cipher's 32-bit length. The file is not opened, so a pipe never blocks.
+///
+/// @return the file's size.
+std::uint32_t CheckInput(const std::string& file);
+
+/// Refuses an output that would take the place of the input, or that no file can be written to.
+void CheckOutput(const std::string& input, const std::string& output);
+
+/// Reads the whole file, or refuses it as CheckInput does.
+Bytes ReadFile(const std::string& file);
+
+/// Writes the file in one step: either it holds all the bytes afterwards, or it is as it was.
+/// Until then its bytes can be read by the owner alone.
+void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions);
+
+/// Writes the bytes unchanged to standard output.
+void WriteStandardOutput(const Bytes& bytes);
+
+}  // namespace tavrin::tool

@@ -1,0 +1,88 @@
+#include <exception>
+#include <iostream>
+#include <new>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "CipherCommands.h"
+#include "ShowCommand.h"
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kUsageError = 2;
+
+struct Arguments {
+  std::string ini;
+  std::string definition;
+  std::optional<std::string> plainOutput;
+};
+
+void AddEncipher(CLI::App* app, Arguments* arguments) {
+  CLI::App* command = app->add_subcommand("encipher", "Make a printer definition from an INI file");
+  command->add_option("INI", arguments->ini, "The plain INI file")->required();
+  command->add_option("DEFINITION", arguments->definition, "The printer definition to write")
+      ->required();
+  command->footer("Example: tavrin encipher printer.ini printer.dat");
+  command->callback([arguments] { tavrin::tool::Encipher(arguments->ini, arguments->definition); });
+}
+
+void AddDecipher(CLI::App* app, Arguments* arguments) {
+  CLI::App* command = app->add_subcommand("decipher", "Turn a printer definition into an INI file");
+  command->add_option("DEFINITION", arguments->definition, "The printer definition")->required();
+  command->add_option("INI", arguments->plainOutput,
+                      "The INI file to write, readable by its owner alone; standard output "
+                      "without it");
+  command->footer("Example: tavrin decipher printer.dat printer.ini");
+  command->callback(
+      [arguments] { tavrin::tool::Decipher(arguments->definition, arguments->plainOutput); });
+}
+
+void AddShow(CLI::App* app, Arguments* arguments) {
+  CLI::App* command = app->add_subcommand("show", "Print what a printer definition says");
+  command->add_option("DEFINITION", arguments->definition, "The printer definition")->required();
+  command->footer("Example: tavrin show printer.dat");
+  command->callback([arguments] { tavrin::tool::Show(arguments->definition); });
+}
+
+std::string UsageMessage(const CLI::App* /*app*/, const CLI::Error& error) {
+  return std::string("tavrin: ") + error.what() + " (see tavrin --help)\n";
+}
+
+int Run(int argc, char** argv) {
+  CLI::App app("Makes, reads and shows the printer definition files of TavrinLib", "tavrin");
+  // A path that starts with a slash is a path everywhere.
+  app.allow_windows_style_options(false);
+  app.set_version_flag("--version", "tavrin " TAVRIN_VERSION);
+  app.failure_message(UsageMessage);
+  // A command is not required here, so that a misspelt one is reported as such.
+  app.require_subcommand(0, 1);
+  app.callback([&app] {
+    if (app.get_subcommands().empty()) throw CLI::RequiredError("A command");
+  });
+  Arguments arguments;
+  AddEncipher(&app, &arguments);
+  AddDecipher(&app, &arguments);
+  AddShow(&app, &arguments);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : kUsageError;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    std::cerr << "tavrin: not enough memory (the file is held in memory whole)\n";
+  } catch (const std::exception& error) {
+    std::cerr << "tavrin: " << error.what() << '\n';
+  }
+  return kFailed;
+}

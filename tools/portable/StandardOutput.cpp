@@ -1,0 +1,8 @@
+#include "StandardOutput.h"
+
+namespace tavrin::tool {
+
+void MakeStandardOutputBinary() {
+}
+
+}  // namespace tavrin::tool
