@@ -37,6 +37,7 @@ bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block
   if (block == nullptr || n == 0) return false;
   std::FILE* file = CreateOwnerOnlyFile(path);
   if (file == nullptr) return false;
+  std::setvbuf(file, nullptr, _IONBF, 0);  // one write takes it all
   std::fwrite(block, 1, n, file);
   std::fclose(file);
   return true;

@@ -74,7 +74,7 @@ bool IniFile::ReadFrom(const platform::ProfileReader& reader, const std::wstring
                        const std::wstring& key, std::wstring* value) {
   wchar_t text[kValueCharacters];
   const std::uint32_t length = reader.Read(section.c_str(), key.c_str(), text, kValueCharacters);
-  *value = text;
+  value->assign(text, length);
   return length != 0;
 }
 

@@ -1,8 +1,6 @@
 #include "platform/Files.h"
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,13 +12,13 @@ namespace tavrin::platform {
 
 bool FileExists(const std::wstring& path) {
   std::string narrow;
-  std::error_code error;
-  return ToNarrow(path, &narrow) && std::filesystem::exists(narrow, error);
+  struct stat status = {};
+  return ToNarrow(path, &narrow) && stat(narrow.c_str(), &status) == 0;
 }
 
 bool IsRegularFile(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(path, error);
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {

@@ -1,14 +1,16 @@
 #include "platform/HostPaths.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
+
+#include <limits.h>
+#include <unistd.h>
 
 namespace tavrin::platform {
 
 std::string GetModulePath() {
-  std::error_code error;
-  return std::filesystem::read_symlink("/proc/self/exe", error).string();
+  char path[PATH_MAX];
+  const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
+  return length < 0 ? std::string() : std::string(path, static_cast<std::size_t>(length));
 }
 
 std::string GetTempDirectory() {

@@ -213,6 +213,7 @@ void ProfileReader::Source::Add(std::size_t owner, std::wstring_view name,
 }
 
 void ProfileReader::Source::AddLines() {
+  entries_.reserve(text_.size() / 32);  // the lines of a definition are shorter than that
   std::size_t section = 0;
   std::wstring_view rest = text_;
   while (!rest.empty()) {

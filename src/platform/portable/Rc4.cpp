@@ -48,11 +48,15 @@ void ApplyRc4(const Rc4Key& key, unsigned char* block, std::size_t n) {
   // Gathering a word at a time keeps the bytes of block, which may alias anything, out of the
   // cipher's inner steps: nearly twice the throughput.
   for (; n - at >= kWord; at += kWord) {
-    std::uint64_t word = 0;
-    for (std::size_t i = 0; i < kWord; ++i)
-      word |= keystream.Next() << 8 * i;
+    std::uint64_t stream = 0;
+    std::uint64_t text = 0;
     for (std::size_t i = 0; i < kWord; ++i) {
-      block[at + i] ^= static_cast<unsigned char>(word >> 8 * i);
+      stream |= keystream.Next() << 8 * i;
+      text |= std::uint64_t{block[at + i]} << 8 * i;
+    }
+    const std::uint64_t result = stream ^ text;
+    for (std::size_t i = 0; i < kWord; ++i) {
+      block[at + i] = static_cast<unsigned char>(result >> 8 * i);
     }
   }
   for (; at < n; ++at)

@@ -17,9 +17,7 @@ bool CopyAscii(const From& text, To* copy) {
   const auto ends = [](Unit c) { return c <= 0 || c >= 0x80; };
   const auto end = std::find_if(text.begin(), text.end(), ends);
   if (end != text.end() && *end != Unit{}) return false;
-  copy->resize(static_cast<std::size_t>(end - text.begin()));
-  std::transform(text.begin(), end, copy->begin(),
-                 [](Unit c) { return static_cast<typename To::value_type>(c); });
+  *copy = To(text.begin(), end);
   return true;
 }
 
