@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ink/IdentifiableData.h"
+
+namespace tavrin {
+
+/// The colours or the ink types that a printer knows, in the order of the definition file.
+class InkTable {
+ public:
+  using Entries = std::vector<std::unique_ptr<IdentifiableData>>;
+
+  void Add(std::int32_t code, const std::string& name);
+  void Clear();
+
+  /// The first entry with this code; null when there is none. It lives as long as the table is not
+  /// cleared.
+  const IdentifiableData* Find(std::int32_t code) const;
+
+  std::size_t size() const { return entries_.size(); }
+  bool empty() const { return entries_.empty(); }
+  const IdentifiableData& operator[](std::size_t index) const { return *entries_[index]; }
+
+ private:
+  Entries entries_;
+  std::map<std::int32_t, const IdentifiableData*> byCode_;
+};
+
+}  // namespace tavrin
