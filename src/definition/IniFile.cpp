@@ -70,6 +70,10 @@ bool IniFile::DeleteKey(const std::wstring& section, const std::wstring& key) {
   return platform::WriteProfileValue(section.c_str(), key.c_str(), nullptr, path.c_str());
 }
 
+std::vector<std::wstring> IniFile::ListKeys(const std::wstring& section) {
+  return platform::ProfileReader(path).ListKeys(section.c_str());
+}
+
 bool IniFile::ReadFrom(const platform::ProfileReader& reader, const std::wstring& section,
                        const std::wstring& key, std::wstring* value) {
   wchar_t text[kValueCharacters];

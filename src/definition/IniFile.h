@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tavrin {
 
@@ -52,6 +53,10 @@ class IniFile {
                            const std::string& value);
   /// Removes the key's line; a key that is not there is no failure.
   virtual bool DeleteKey(const std::wstring& section, const std::wstring& key);
+
+  /// The names of the keys in the section. One that is listed need not have a value that
+  /// can be read.
+  virtual std::vector<std::wstring> ListKeys(const std::wstring& section);
 
   /// The file that every operation addresses.
   std::wstring path;

@@ -11,4 +11,8 @@ bool IniSnapshot::ReadString(const std::wstring& section, const std::wstring& ke
   return ReadFrom(reader_, section, key, value);
 }
 
+std::vector<std::wstring> IniSnapshot::ListKeys(const std::wstring& section) {
+  return reader_.ListKeys(section.c_str());
+}
+
 }  // namespace tavrin

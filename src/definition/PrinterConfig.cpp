@@ -5,6 +5,7 @@
 
 #include "definition/FileCipher.h"
 #include "definition/IniSnapshot.h"
+#include "definition/InkTables.h"
 #include "definition/IntegerConversion.h"
 #include "definition/PrintModes.h"
 #include "definition/PrinterSection.h"
@@ -49,6 +50,13 @@ bool PrinterConfig::Parse(const std::string& path) {
 bool PrinterConfig::ReadFrom(IniFile& ini) {
   if (!ReadPrinterSection(ini, this)) return false;
   ReadModes(ini, this);
+  ReadColors(ini, this);
+  ReadInkTypes(ini, this);
+  if (ReadInkSlots(ini, this)) {
+    BuildInkCategories();
+  } else {
+    BuildDefaultInkCategories();
+  }
   return true;
 }
 

@@ -9,18 +9,14 @@
 #include "definition/IniFile.h"
 #include "definition/M3DVector.h"
 #include "definition/ModeConfig.h"
+#include "ink/InkModel.h"
 
 namespace tavrin {
 
-/// What the printer can do and how it is set up. Made with the defaults below, filled from one
-/// definition file, and only read afterwards.
-class PrinterConfig {
+/// What the printer can do and how it is set up, its inks included. Made with the defaults below,
+/// filled from one definition file, and only read afterwards.
+class PrinterConfig : public InkModel {
  public:
-  PrinterConfig() = default;
-  virtual ~PrinterConfig() = default;
-  PrinterConfig(const PrinterConfig&) = delete;
-  PrinterConfig& operator=(const PrinterConfig&) = delete;
-
   /// Reads, deciphers and parses the enciphered definition file at path. While it is parsed, a
   /// plain copy lies in the temporary directory, for the profile functions read files alone; it is
   /// removed whatever the outcome.

@@ -28,6 +28,9 @@ class ProfileReader {
   std::uint32_t Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
                      std::uint32_t size) const;
 
+  /// The names of the keys in section, in the order of the file.
+  std::vector<std::wstring> ListKeys(const wchar_t* section) const;
+
  private:
   class Source;
   std::unique_ptr<const Source> source_;

@@ -175,6 +175,8 @@ class ProfileReader::Source {
   /// @return the value, empty also when there is no such key.
   std::wstring_view Find(std::wstring_view section, std::wstring_view key) const;
 
+  std::vector<std::wstring> ListKeys(std::wstring_view section) const;
+
  private:
   /// Entries are numbered from 1; 0 stands for none, and for the owner of the sections.
   struct Entry {
@@ -205,6 +207,15 @@ std::wstring_view ProfileReader::Source::Find(std::wstring_view section,
   const std::size_t owner = NumberOf(0, section);
   const std::size_t number = owner == 0 ? 0 : NumberOf(owner, key);
   return number == 0 ? std::wstring_view() : entries_[number - 1].value;
+}
+
+std::vector<std::wstring> ProfileReader::Source::ListKeys(std::wstring_view section) const {
+  std::vector<std::wstring> keys;
+  const std::size_t owner = NumberOf(0, section);
+  // The keys of a section follow its header directly.
+  for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner; ++i)
+    keys.emplace_back(entries_[i].name);
+  return keys;
 }
 
 void ProfileReader::Source::Add(std::size_t owner, std::wstring_view name,
@@ -271,6 +282,10 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
   value.copy(buffer, value.size());
   buffer[value.size()] = L'\0';
   return static_cast<std::uint32_t>(value.size());
+}
+
+std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
+  return source_->ListKeys(StripSpaces(section));
 }
 
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

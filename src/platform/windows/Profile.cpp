@@ -4,6 +4,12 @@
 
 namespace tavrin::platform {
 
+namespace {
+
+constexpr DWORD kLongestList = 0x80000000;
+
+}  // namespace
+
 class ProfileReader::Source {
  public:
   explicit Source(const std::wstring& path) : path_(path) {}
@@ -23,6 +29,25 @@ ProfileReader::~ProfileReader() = default;
 std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
                                   std::uint32_t size) const {
   return GetPrivateProfileStringW(section, key, L"", buffer, size, source_->Path());
+}
+
+std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
+  // Each name ends in a NUL, the list in one more. A list that fills the buffer but for two
+  // characters has been cut.
+  std::vector<wchar_t> buffer(4096);
+  DWORD length = 0;
+  for (;;) {
+    const auto size = static_cast<DWORD>(buffer.size());
+    length = GetPrivateProfileStringW(section, nullptr, L"", buffer.data(), size, source_->Path());
+    if (length < size - 2 || size > kLongestList / 2) break;
+    buffer.resize(2 * buffer.size());
+  }
+  std::vector<std::wstring> keys;
+  for (const wchar_t* key = buffer.data(); key < buffer.data() + length;) {
+    keys.emplace_back(key);
+    key += keys.back().size() + 1;
+  }
+  return keys;
 }
 
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

@@ -1,0 +1,98 @@
+#include "definition/InkTables.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "definition/PrinterKeys.h"
+#include "definition/TextConversion.h"
+#include "definition/ValueConversion.h"
+#include "util/TextUtilities.h"
+
+namespace tavrin {
+
+namespace {
+
+/// The indices from 1 to count that can have an entry, in rising order. A count may be far beyond
+/// the entries that are there, so one of more than three digits is held against the keys.
+std::vector<std::int32_t> EntryIndices(IniFile& ini, const std::string& prefix,
+                                       std::int32_t count) {
+  std::vector<std::int32_t> indices;
+  if (count <= 999) {
+    for (std::int32_t index = 1; index <= count; ++index)
+      indices.push_back(index);
+    return indices;
+  }
+  for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection))) {
+    // Another key's number may slip in here; it finds no entry when it is read.
+    if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9') {
+      continue;
+    }
+    std::int32_t index = 0;
+    if (ParseInt(key.substr(prefix.size()), &index) && index >= 1 && index <= count) {
+      indices.push_back(index);
+    }
+  }
+  std::sort(indices.begin(), indices.end());
+  indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
+  return indices;
+}
+
+/// Reads the entries of a table.
+///
+/// @return false, table untouched, when the definition has no count of at least 1.
+bool ReadTable(IniFile& ini, const std::string& countKey, const std::string& prefix,
+               InkTable* table) {
+  std::int32_t count = 0;
+  if (!ini.ReadInt(kPrinterSection, countKey, &count) || count < 1) return false;
+  table->Clear();
+  for (const std::int32_t index : EntryIndices(ini, prefix, count)) {
+    const std::string entry = prefix + FormatThreeDigits(index);
+    std::int32_t code = 0;
+    std::string name;
+    if (ini.ReadInt(kPrinterSection, entry + "Code", &code) &&
+        ini.ReadString(kPrinterSection, entry + "Name", &name)) {
+      table->Add(code, name);
+    }
+  }
+  return true;
+}
+
+bool ReadInkSlot(IniFile& ini, std::int32_t number, InkModel* inks) {
+  std::int32_t colorCode = 0;
+  std::int32_t inkTypeCode = 0;
+  const std::string suffix = IntToString(number);
+  return ini.ReadInt(kPrinterSection, "ColorCodeInkSlot" + suffix, &colorCode) &&
+         ini.ReadInt(kPrinterSection, "InkTypeCodeInkSlot" + suffix, &inkTypeCode) &&
+         inks->AddInkSlot(static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(colorCode),
+                          static_cast<std::uint32_t>(inkTypeCode));
+}
+
+}  // namespace
+
+bool ReadColors(IniFile& ini, InkModel* inks) {
+  if (!ReadTable(ini, "NumOfColor", "Color", &inks->Colors)) inks->SetDefaultColors();
+  return true;
+}
+
+bool ReadInkTypes(IniFile& ini, InkModel* inks) {
+  if (!ReadTable(ini, "NumOfInkType", "InkType", &inks->InkTypes)) inks->SetDefaultInkTypes();
+  return true;
+}
+
+bool ReadInkSlots(IniFile& ini, InkModel* inks) {
+  inks->InkSlots.clear();
+  inks->InkSlotNum = 0;
+  std::int32_t count = 0;
+  const bool counted = ini.ReadInt(kPrinterSection, "PrinterInkSlotNum", &count) && count >= 1;
+  inks->InkSlotNum = counted ? count : 0;
+  // The count may be INT32_MAX, so the number is compared before it is raised.
+  bool complete = counted;
+  for (std::int32_t number = 0; complete && number < count;) {
+    complete = ReadInkSlot(ini, ++number, inks);
+  }
+  if (!complete) inks->SetDefaultInkSlots();
+  return complete;
+}
+
+}  // namespace tavrin
