@@ -21,8 +21,12 @@
 /// 6. Null. Output pointers must not be null, except where a function documents its answer.
 /// 7. Threads. Nothing is locked. Call from one thread at a time, and never initialise or finalise
 ///    while another call runs.
-/// 8. Life. Answers are copied out and stay the caller's.
-/// 9. Memory. Only an exhausted allocation can leave a function as a C++ exception.
+/// 8. Life. Answers are copied out and stay the caller's. The one exception is the #InkSlot of
+///    TavrinGetInkSlot(), which the library owns: it is gone after TavrinFinalize() or the next
+///    TavrinInitialize().
+/// 9. Memory. Arrays that the library hands out belong to the caller, who frees them with the C++
+///    `delete[]` of the runtime that the library is built with; there is no function for it. Only
+///    an exhausted allocation can leave a function as a C++ exception.
 #ifndef TAVRIN_LIB_H
 #define TAVRIN_LIB_H
 
@@ -43,7 +47,10 @@
 #endif
 
 #ifdef __cplusplus
+class InkSlot;
 extern "C" {
+#else
+typedef struct InkSlot InkSlot;
 #endif
 
 /// The last-error codes. No other value is ever stored.
@@ -251,6 +258,57 @@ TAVRIN_API bool TavrinGetAutoCleaning(bool* enabled);
 /// @param enabled receives the switch.
 /// @return false with #ErrorNotInitialized when no definition is loaded.
 TAVRIN_API bool TavrinGetCheckNozzleWhilePrinting(bool* enabled);
+
+/// Asks how many ink categories there are. Their indices for
+/// TavrinGetInkSlotNumConposeInkCategory() run from 0 to count - 1.
+///
+/// A category is a list of ink slots that the host treats as one ink, or a total over several inks.
+/// The last two are the totals: the ink that models are made of, and all ink.
+///
+/// @param count receives the number of ink categories.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetItemCountOfInkCategory(uint32_t* count);
+
+/// Asks for the numbers of the ink slots that make up one ink category.
+///
+/// @param index position of the category, from 0.
+/// @param numbers receives a new array of slot numbers, which the caller frees with `delete[]`.
+/// @param count receives the number of elements of the array.
+/// @return false with #ErrorNotInitialized when no definition is loaded; false with #ErrorFailed
+///         when there is no category at index or it has no slots. Both outputs are then untouched.
+TAVRIN_API bool TavrinGetInkSlotNumConposeInkCategory(int32_t index, int32_t** numbers,
+                                                      int32_t* count);
+
+/// Asks how many ink slots the printer has. They are numbered from 1 to count.
+///
+/// A definition that does not describe its slots in full has the eight built-in ones.
+///
+/// @param count receives the number of ink slots.
+/// @return false with #ErrorNotInitialized when no definition is loaded.
+TAVRIN_API bool TavrinGetItemCountOfInkSlot(uint32_t* count);
+
+/// Asks for an ink slot, an object of the C++ class that InkSlot.h declares. One that names a
+/// colour or an ink type that the definition does not describe is there all the same; its IsValid()
+/// says so.
+///
+/// @param slotNumber the slot's number, from 1.
+/// @param slot receives the slot, which stays the library's; null when there is none of that
+///        number. A null slot is answered as below.
+/// @return false with #ErrorNotInitialized when no definition is loaded or slot is null; false,
+///         recording nothing, when there is no slot of that number.
+TAVRIN_API bool TavrinGetInkSlot(uint32_t slotNumber, InkSlot** slot);
+
+/// Writes the loaded printer definition, enciphered as it was, to a modeling conditions file. The
+/// file is identical to the definition file that was loaded, byte for byte, and can be loaded as
+/// one. A file that is there is replaced.
+///
+/// Success is judged by whether the file could be opened: an error while writing to it, such as a
+/// full disk, is not reported.
+///
+/// @param path the file to write; null is answered as below.
+/// @return false with #ErrorNotInitialized when no definition is loaded or path is null; false with
+///         #ErrorWriteFailed when the file cannot be opened for writing.
+TAVRIN_API bool TavrinCreateModelingConditionsFile(const char* path);
 
 #ifdef __cplusplus
 }
