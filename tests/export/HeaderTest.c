@@ -27,6 +27,11 @@ static const AnyFunction kExports[] = {
     (AnyFunction)TavrinGetSupportSize,
     (AnyFunction)TavrinGetAutoCleaning,
     (AnyFunction)TavrinGetCheckNozzleWhilePrinting,
+    (AnyFunction)TavrinGetItemCountOfInkCategory,
+    (AnyFunction)TavrinGetInkSlotNumConposeInkCategory,
+    (AnyFunction)TavrinGetItemCountOfInkSlot,
+    (AnyFunction)TavrinGetInkSlot,
+    (AnyFunction)TavrinCreateModelingConditionsFile,
 };
 
 static int failures = 0;

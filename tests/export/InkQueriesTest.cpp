@@ -1,0 +1,123 @@
+#include <memory>
+#include <vector>
+
+#include "InkSlot.h"
+#include "export/ExportTest.h"
+
+namespace tavrin::test {
+namespace {
+
+class InkQueries : public ExportTest {};
+
+using Numbers = std::vector<std::int32_t>;
+
+Numbers SlotsOfCategory(std::int32_t index) {
+  std::int32_t* numbers = nullptr;
+  std::int32_t count = -1;
+  if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
+  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  return Numbers(numbers, numbers + count);
+}
+
+/// What a text operation of a slot hands out; the array must be as long as it says.
+std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
+  char* text = nullptr;
+  std::int32_t size = -1;
+  EXPECT_TRUE((slot.*get)(&text, &size));
+  if (text == nullptr) return "null of size " + std::to_string(size);
+  const std::unique_ptr<char[]> owned(text);
+  EXPECT_EQ(text[size - 1], '\0');
+  return std::string(text, static_cast<std::size_t>(size - 1));
+}
+
+TEST_F(InkQueries, WithoutADefinitionEachFails) {
+  std::uint32_t count = 7;
+  std::int32_t signedCount = 7;
+  std::int32_t* numbers = nullptr;
+  InkSlot* slot = nullptr;
+  const bool results[] = {
+      TavrinGetItemCountOfInkCategory(&count),
+      TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &signedCount),
+      TavrinGetItemCountOfInkSlot(&count),
+      TavrinGetInkSlot(1, &slot),
+      TavrinGetInkSlot(1, nullptr),
+  };
+  for (const bool result : results)
+    EXPECT_FALSE(result);
+  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  EXPECT_EQ(count, 7u);
+  EXPECT_EQ(signedCount, 7);
+}
+
+TEST_F(InkQueries, TheBuiltInSlotsMakeSixCategories) {
+  ASSERT_TRUE(InitializeDefinition(""));
+  std::uint32_t count = 0;
+  EXPECT_TRUE(TavrinGetItemCountOfInkSlot(&count));
+  EXPECT_EQ(count, 8u);
+  EXPECT_TRUE(TavrinGetItemCountOfInkCategory(&count));
+  EXPECT_EQ(count, 6u);
+  const Numbers expected[] = {
+      {1, 2}, {3}, {4}, {5, 6, 7, 8}, {3, 4, 5, 6, 7, 8}, {1, 2, 3, 4, 5, 6, 7, 8}};
+  for (std::int32_t i = 0; i < 6; ++i)
+    EXPECT_EQ(SlotsOfCategory(i), expected[i]) << i;
+}
+
+TEST_F(InkQueries, ACategoryThatCannotListItsSlotsIsAFailure) {
+  // Without a white ink the third built-in category is empty.
+  ASSERT_TRUE(InitializeDefinition("NumOfColor=1\nColor001Code=1\nColor001Name=Cyan\n"));
+  for (const std::int32_t index : {-2147483647 - 1, -1, 2, 6, 2147483647}) {
+    SetLastErrorAside();
+    std::int32_t* numbers = nullptr;
+    std::int32_t count = 7;
+    EXPECT_FALSE(TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) << index;
+    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed)) << index;
+    EXPECT_EQ(count, 7) << index;
+  }
+}
+
+TEST_F(InkQueries, ASlotAnswersThroughItsVirtualTable) {
+  ASSERT_TRUE(
+      InitializeDefinition("PrinterInkSlotNum=2\nColorCodeInkSlot1=4\nInkTypeCodeInkSlot1=113\n"
+                           "ColorCodeInkSlot2=4\nInkTypeCodeInkSlot2=99\n"));
+  const struct {
+    std::uint32_t color, inkType;
+    const char* id;
+    const char* name;
+    bool valid;
+  } cases[] = {{4, 113, "113004", "KP-300 Black", true}, {0, 0, "000000", "null of size 0", false}};
+  std::uint32_t number = 0;
+  for (const auto& c : cases) {
+    InkSlot* slot = nullptr;
+    ASSERT_TRUE(TavrinGetInkSlot(++number, &slot));
+    std::uint32_t code = 77;
+    EXPECT_TRUE(slot->GetColorCode(&code));
+    EXPECT_EQ(code, c.color);
+    EXPECT_TRUE(slot->GetInkTypeCode(&code));
+    EXPECT_EQ(code, c.inkType);
+    EXPECT_EQ(TextOf(*slot, &InkSlot::GetInkId), c.id);
+    EXPECT_EQ(TextOf(*slot, &InkSlot::GetInkName), c.name);
+    EXPECT_EQ(slot->IsValid(), c.valid);
+    std::int32_t size = 7;
+    EXPECT_FALSE(slot->GetInkId(nullptr, &size));
+    EXPECT_FALSE(slot->GetInkName(nullptr, &size));
+    EXPECT_EQ(size, 7);
+  }
+}
+
+TEST_F(InkQueries, AnUnknownSlotNumberGivesNullAndRecordsNothing) {
+  ASSERT_TRUE(InitializeDefinition(""));
+  SetLastErrorAside();
+  InkSlot* first = nullptr;
+  ASSERT_TRUE(TavrinGetInkSlot(1, &first));
+  for (const std::uint32_t number : {0u, 9u, 4294967295u}) {
+    InkSlot* slot = first;
+    EXPECT_FALSE(TavrinGetInkSlot(number, &slot)) << number;
+    EXPECT_EQ(slot, nullptr) << number;
+  }
+  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+  EXPECT_FALSE(TavrinGetInkSlot(1, nullptr));
+  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+}
+
+}  // namespace
+}  // namespace tavrin::test
