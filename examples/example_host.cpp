@@ -1,7 +1,10 @@
-// A host program at its smallest: load a printer definition, ask, release.
+// A host program at its smallest: load a printer definition, ask, write the modeling conditions,
+// release.
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 
+#include "InkSlot.h"
 #include "TavrinLib.h"
 
 namespace {
@@ -48,15 +51,37 @@ bool PrintModes() {
   return true;
 }
 
+bool PrintInks() {
+  std::uint32_t count = 0;
+  if (!Check("TavrinGetItemCountOfInkSlot", TavrinGetItemCountOfInkSlot(&count))) return false;
+  for (std::uint32_t number = 1; number <= count; ++number) {
+    InkSlot* slot = nullptr;  // stays the library's
+    if (!Check("TavrinGetInkSlot", TavrinGetInkSlot(number, &slot))) return false;
+    char* name = nullptr;
+    std::int32_t size = 0;
+    slot->GetInkName(&name, &size);
+    const std::unique_ptr<char[]> owned(name);  // the array is the host's to free
+    std::printf("Slot %u: %s\n", number, slot->IsValid() ? name : "unknown ink");
+  }
+  return true;
+}
+
+bool WriteConditions(const char* path) {
+  return Check("TavrinCreateModelingConditionsFile", TavrinCreateModelingConditionsFile(path));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: example_host DEFINITION\n");
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: example_host DEFINITION CONDITIONS\n");
     return 2;
   }
   bool succeeded = Check("TavrinInitialize", TavrinInitialize(argv[1]));
-  if (succeeded) succeeded = PrintModel() && PrintBuildVolume() && PrintModes();
+  if (succeeded) {
+    succeeded = PrintModel() && PrintBuildVolume() && PrintModes() && PrintInks() &&
+                WriteConditions(argv[2]);
+  }
   TavrinFinalize();
   return succeeded ? 0 : 1;
 }

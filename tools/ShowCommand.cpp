@@ -6,6 +6,7 @@
 #include "Failure.h"
 #include "FileTransfer.h"
 #include "Report.h"
+#include "ShowInks.h"
 #include "ShowSections.h"
 #include "TavrinLib.h"
 
@@ -15,8 +16,9 @@ namespace {
 
 using ShowSection = void (*)(Report*);
 
-constexpr ShowSection kSections[] = {ShowIdentity, ShowBuildVolume, ShowModes, ShowSupport,
-                                     ShowMachine};
+constexpr ShowSection kSections[] = {ShowIdentity, ShowBuildVolume, ShowModes,
+                                     ShowSupport,  ShowMachine,     ShowInkSlots,
+                                     ShowColors,   ShowInkTypes,    ShowInkCategories};
 
 /// The definition stays loaded for this object's life.
 class LoadedDefinition {

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <limits>
 
-#include "Failure.h"
+#include "Query.h"
 #include "TavrinLib.h"
 
 namespace tavrin::tool {
@@ -18,11 +18,6 @@ constexpr std::int32_t kNoLimit = -1;
 constexpr std::int32_t kNoLayers = std::numeric_limits<std::int32_t>::min();
 
 using ModeValues = std::array<std::int32_t, 6>;
-
-/// A query of a loaded definition that fails leaves the report without a footing.
-void Ask(const Report& report, const char* query, bool answered) {
-  if (!answered) throw Failure(report.File(), std::string(query) + " failed", "report this");
-}
 
 std::string Millimetres(std::int64_t micrometres) {
   char text[32];
