@@ -42,7 +42,7 @@ std::vector<std::string> KeysAskedOf(const std::string& plain) {
   Write(path, plain);
   RecordingIni ini;
   ini.Open(WideCopy(path));
-  PrinterConfig().ReadFrom(ini);
+  PrinterConfig().ParseOpened(ini);
   std::remove(path.c_str());
   return ini.keys;
 }

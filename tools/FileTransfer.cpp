@@ -61,7 +61,7 @@ bool ReadAll(std::istream& stream, Bytes* bytes) {
   return stream.peek() == std::istream::traits_type::eof();
 }
 
-/// The file that is replaced: a link stays and its target gets the bytes.
+/// The file that is replaced: a link stays and what it leads to gets the bytes.
 std::filesystem::path FollowLink(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_symlink(file, error)) return file;
@@ -90,6 +90,9 @@ void CheckOutput(const std::string& input, const std::string& output) {
   const std::filesystem::path path = ToPath(output);
   if (!path.has_filename()) throw Failure(output, "names no file", "add a file name");
   std::error_code error;
+  if (std::filesystem::is_symlink(path, error) && !std::filesystem::exists(path, error)) {
+    throw Failure(output, "is a link that leads nowhere", "remove it or name another output file");
+  }
   if (std::filesystem::equivalent(ToPath(input), path, error)) {
     throw Failure(output, "is the input file itself", "name another output file");
   }

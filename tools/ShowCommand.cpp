@@ -54,7 +54,6 @@ Failure Diagnose(const std::string& file) {
 }  // namespace
 
 void Show(const std::string& definition) {
-  CheckInput(definition);
   const LoadedDefinition loaded(definition);
   if (!loaded) throw Diagnose(definition);
   Report report(definition, std::cout);

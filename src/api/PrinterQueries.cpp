@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <cstring>
+#include <limits>
 #include <string>
 
 #include "TavrinLib.h"
@@ -30,9 +30,10 @@ bool QueryMode(int32_t index, Answer answer) {
   });
 }
 
-/// The slices in the build height. A slice height of 0 divides to no finite number, which truncates
-/// to INT32_MIN.
+/// The slices in the build height; INT32_MIN, to which no finite number truncates, where the slices
+/// have no height.
 int32_t LayerCount(const PrinterConfig& config, const ModeConfig& mode) {
+  if (mode.SliceSize == 0) return std::numeric_limits<int32_t>::min();
   return TruncateToInt32(static_cast<double>(ToMicrometres(config.PrinterSize.z)) / mode.SliceSize);
 }
 

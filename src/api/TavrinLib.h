@@ -14,10 +14,11 @@
 /// 4. Units. Lengths are whole micrometres (µm), truncated toward zero from the millimetres of the
 ///    definition file; only TavrinGetHeadBandSize() answers in millimetres. No range is imposed on
 ///    what the file says: a negative length comes out of a uint32_t modulo 2^32, and one beyond
-///    32 bits as 0x80000000.
+///    32 bits as 0x80000000; only the sides of TavrinGetAreaSize() are modulo 2^32 throughout.
 /// 5. Strings. Paths and texts are NUL-terminated narrow strings in the process's code page: the
 ///    ANSI code page on Windows, the locale's encoding elsewhere (UTF-8 where the environment names
-///    no usable locale).
+///    no usable locale). On Windows, converting texts while a definition loads sets the process's
+///    locale category LC_CTYPE to the user's.
 /// 6. Null. Output pointers must not be null, except where a function documents its answer.
 /// 7. Threads. Nothing is locked. Call from one thread at a time, and never initialise or finalise
 ///    while another call runs.
@@ -78,7 +79,8 @@ enum TavrinErrorCode {
 /// @param path the definition file; null is answered as below.
 /// @return false with #ErrorInvalidArgument when path is null (the loaded definition stays);
 ///         false with #ErrorFailed when the file is missing, empty, unreadable or holds no
-///         "Version" (no definition is loaded afterwards).
+///         "Version", or the plain copy cannot be written to the temporary directory (no
+///         definition is loaded afterwards).
 TAVRIN_API bool TavrinInitialize(const char* path);
 
 /// Releases the loaded printer definition. Harmless when there is none. A host that ends without
@@ -99,8 +101,8 @@ TAVRIN_API bool TavrinGetLastError(uint32_t* code);
 
 /// Asks for the build volume.
 ///
-/// Each side is the definition's millimetres × 1000 truncated to a whole number; outside 32 bits it
-/// is handed out modulo 2^32.
+/// Each side is the definition's millimetres × 1000 truncated to a whole number and handed out
+/// modulo 2^32; one beyond 64 bits, or no number, gives 0.
 ///
 /// @param x receives the width in µm.
 /// @param y receives the depth in µm.
@@ -125,16 +127,14 @@ TAVRIN_API bool TavrinGetAreaMarginSize(uint32_t* margin);
 /// @return false with #ErrorNotInitialized when no definition is loaded.
 TAVRIN_API bool TavrinGetModeCount(uint32_t* count);
 
-/// Asks for the settings of one print mode.
-///
+/// Asks for the settings of one print mode:
 /// - config[0]: the mode's number
 /// - config[1]: slice height in µm
 /// - config[2]: second value of the mode's pair
 /// - config[3]: first value of the mode's pair
-/// - config[4]: number of slices in the height of the build volume, or INT32_MIN where the slice
-///   height is 0
+/// - config[4]: number of slices in the height of the build volume: the height in µm, INT32_MIN
+///   where it is beyond 32 bits, divided by the slice height; INT32_MIN where that is 0
 /// - config[5]: how long the mode may run on as a limited one, or -1 where the file gives no limit
-///
 /// @param index position of the mode, from 0.
 /// @param config receives the six values.
 /// @return false with #ErrorNotInitialized when no definition is loaded; false, recording

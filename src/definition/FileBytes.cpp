@@ -1,23 +1,40 @@
 #include "definition/FileBytes.h"
 
 #include <fstream>
+#include <memory>
 
 #include "platform/Files.h"
 
 namespace tavrin {
 
+namespace {
+
+struct Closer {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+using File = std::unique_ptr<std::FILE, Closer>;
+
+/// One transfer moves all there is, so that a buffer in between would only cost.
+void TransferDirectly(const File& file) {
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);
+}
+
+}  // namespace
+
 std::uint32_t FileSizeOf(const std::string& path) {
-  if (!platform::IsRegularFile(path)) return 0;
-  std::ifstream file(path, std::ios::in | std::ios::ate);
-  const std::streamoff end = file.is_open() ? std::streamoff{file.tellg()} : 0;
-  return end < 0 ? 0 : static_cast<std::uint32_t>(end);
+  std::uint64_t size = 0;
+  const File file(platform::OpenRegularFile(path, &size));
+  return file == nullptr ? 0 : static_cast<std::uint32_t>(size);
 }
 
 bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t n) {
-  if (block == nullptr || n == 0 || !platform::IsRegularFile(path)) return false;
-  std::ifstream file(path, std::ios::in | std::ios::binary);
-  if (!file.is_open()) return false;
-  file.read(reinterpret_cast<char*>(block), n);
+  if (block == nullptr || n == 0) return false;
+  std::uint64_t size = 0;
+  const File file(platform::OpenRegularFile(path, &size));
+  if (file == nullptr) return false;
+  TransferDirectly(file);
+  static_cast<void>(std::fread(block, 1, n, file.get()));
   return true;
 }
 
@@ -35,11 +52,10 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
 
 bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
   if (block == nullptr || n == 0) return false;
-  std::FILE* file = CreateOwnerOnlyFile(path);
+  const File file(CreateOwnerOnlyFile(path));
   if (file == nullptr) return false;
-  std::setvbuf(file, nullptr, _IONBF, 0);  // one write takes it all
-  std::fwrite(block, 1, n, file);
-  std::fclose(file);
+  TransferDirectly(file);
+  std::fwrite(block, 1, n, file.get());
   return true;
 }
 

@@ -40,7 +40,7 @@ bool IniFile::ReadDouble(const std::wstring& section, const std::wstring& key, d
 
 bool IniFile::ReadString(const std::wstring& section, const std::wstring& key,
                          std::wstring* value) {
-  return ReadFrom(platform::ProfileReader(path), section, key, value);
+  return ReadThrough(platform::ProfileReader(path), section, key, value);
 }
 
 bool IniFile::ReadInt(const std::string& section, const std::string& key, std::int32_t* value) {
@@ -74,8 +74,8 @@ std::vector<std::wstring> IniFile::ListKeys(const std::wstring& section) {
   return platform::ProfileReader(path).ListKeys(section.c_str());
 }
 
-bool IniFile::ReadFrom(const platform::ProfileReader& reader, const std::wstring& section,
-                       const std::wstring& key, std::wstring* value) {
+bool IniFile::ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,
+                          const std::wstring& key, std::wstring* value) {
   wchar_t text[kValueCharacters];
   const std::uint32_t length = reader.Read(section.c_str(), key.c_str(), text, kValueCharacters);
   value->assign(text, length);

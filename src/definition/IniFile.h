@@ -63,8 +63,8 @@ class IniFile {
 
  protected:
   /// What the wide ReadString does, on an opened reader.
-  static bool ReadFrom(const platform::ProfileReader& reader, const std::wstring& section,
-                       const std::wstring& key, std::wstring* value);
+  static bool ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,
+                          const std::wstring& key, std::wstring* value);
 };
 
 /// True when path names an existing entry of the file system, of whatever kind.

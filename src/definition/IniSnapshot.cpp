@@ -8,7 +8,7 @@ IniSnapshot::IniSnapshot(const std::wstring& snapshotPath) : reader_(snapshotPat
 
 bool IniSnapshot::ReadString(const std::wstring& section, const std::wstring& key,
                              std::wstring* value) {
-  return ReadFrom(reader_, section, key, value);
+  return ReadThrough(reader_, section, key, value);
 }
 
 std::vector<std::wstring> IniSnapshot::ListKeys(const std::wstring& section) {

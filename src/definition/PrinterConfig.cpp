@@ -44,10 +44,10 @@ bool PrinterConfig::Load(const std::string& path) {
 
 bool PrinterConfig::Parse(const std::string& path) {
   IniSnapshot ini(WideCopy(path));
-  return ini.Exists() && ReadFrom(ini);
+  return ini.Exists() && ParseOpened(ini);
 }
 
-bool PrinterConfig::ReadFrom(IniFile& ini) {
+bool PrinterConfig::ParseOpened(IniFile& ini) {
   if (!ReadPrinterSection(ini, this)) return false;
   ReadModes(ini, this);
   ReadColors(ini, this);

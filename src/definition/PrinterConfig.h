@@ -31,7 +31,7 @@ class PrinterConfig : public InkModel {
   bool Parse(const std::string& path);
 
   /// Parse on an opened file.
-  bool ReadFrom(IniFile& ini);
+  bool ParseOpened(IniFile& ini);
 
   /// The thickness in µm of the support beside a model of the given height in µm: 0 for a height
   /// below 1, the bare extent where the angle is not above 0.

@@ -18,7 +18,7 @@ bool ReadMicrometres(IniFile& ini, const std::string& key, std::int32_t* field);
 
 /// Reads a text and cuts it at its commas.
 ///
-/// @return false when the key is missing; fields is then untouched.
+/// @return false when the key is missing or its text empty.
 bool ReadList(IniFile& ini, const std::string& key, std::vector<std::string>* fields);
 
 }  // namespace tavrin

@@ -22,7 +22,7 @@ class ProfileReader {
   /// Copies the value of key in section into buffer and ends it with a NUL. A value longer than
   /// size - 1 characters is cut; a missing one gives the empty text.
   ///
-  /// REQUIRES: size is at least 1 and buffer holds size characters.
+  /// REQUIRES: section and key are not null, size is at least 1, buffer holds size characters.
   ///
   /// @return the number of characters copied, without the NUL.
   std::uint32_t Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
@@ -38,6 +38,8 @@ class ProfileReader {
 
 /// Writes key=value into section of the profile at path, creating file and section as needed. A
 /// null value removes the key's line instead.
+///
+/// REQUIRES: section, key and path are not null.
 ///
 /// @return false when the file could not be written.
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

@@ -16,9 +16,19 @@ bool FileExists(const std::wstring& path) {
   return ToNarrow(path, &narrow) && stat(narrow.c_str(), &status) == 0;
 }
 
-bool IsRegularFile(const std::string& path) {
+std::FILE* OpenRegularFile(const std::string& path, std::uint64_t* size) {
+  // Without O_NONBLOCK a pipe would hold the call until somebody writes to it.
+  const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (descriptor < 0) return nullptr;
   struct stat status = {};
-  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  const bool isRegular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+  std::FILE* file = isRegular ? fdopen(descriptor, "rb") : nullptr;
+  if (file == nullptr) {
+    close(descriptor);
+    return nullptr;
+  }
+  *size = static_cast<std::uint64_t>(status.st_size);
+  return file;
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {

@@ -82,8 +82,9 @@ bool WriteAt(int file, std::string_view bytes, std::size_t offset) {
 /// instance on a full disk, is taken back.
 bool UpdateFile(const std::string& path, std::string_view before, std::string_view after) {
   if (before == after) return true;
-  Descriptor file(path, O_WRONLY | O_CREAT | kOpenFlags);
   struct stat status = {};
+  const bool isNew = stat(path.c_str(), &status) != 0;
+  Descriptor file(path, O_WRONLY | O_CREAT | kOpenFlags);
   if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   const auto kept = static_cast<std::size_t>(
       std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
@@ -94,6 +95,7 @@ bool UpdateFile(const std::string& path, std::string_view before, std::string_vi
   };
   if (put(after)) return file.Close();
   put(before);
+  if (isNew) unlink(path.c_str());
   return false;
 }
 
@@ -160,7 +162,8 @@ std::string Edit(const std::string& bytes, std::wstring_view section, std::wstri
     encoding.AppendUnits(wide.append(L"=").append(value).append(L"\r\n"), &lines);
   }
   text.replace(place.begin, place.end - place.begin, lines);
-  return Encoding::ToBytes(text);
+  const std::size_t incomplete = bytes.size() % sizeof(Unit);
+  return Encoding::ToBytes(text).append(bytes, bytes.size() - incomplete, incomplete);
 }
 
 }  // namespace
@@ -193,11 +196,14 @@ class ProfileReader::Source {
   std::size_t NumberOf(std::size_t owner, std::wstring_view name) const;
 
   std::wstring text_;
+  /// Where the text lies differs from process to process: no file can aim at equal hashes.
+  std::uint64_t seed_;
   std::vector<Entry> entries_;
   std::vector<std::size_t> slots_;  ///< of entry numbers; a power of two, at most half of it taken
 };
 
-ProfileReader::Source::Source(std::wstring text) : text_(std::move(text)) {
+ProfileReader::Source::Source(std::wstring text)
+    : text_(std::move(text)), seed_(reinterpret_cast<std::uintptr_t>(text_.data())) {
   AddLines();
   FillSlots();
 }
@@ -220,7 +226,7 @@ std::vector<std::wstring> ProfileReader::Source::ListKeys(std::wstring_view sect
 
 void ProfileReader::Source::Add(std::size_t owner, std::wstring_view name,
                                 std::wstring_view value) {
-  entries_.push_back({HashName(name, owner), owner, name, value});
+  entries_.push_back({HashName(name, seed_ + owner), owner, name, value});
 }
 
 void ProfileReader::Source::AddLines() {
@@ -264,7 +270,7 @@ std::size_t ProfileReader::Source::SlotOf(std::uint64_t hash, std::size_t owner,
 }
 
 std::size_t ProfileReader::Source::NumberOf(std::size_t owner, std::wstring_view name) const {
-  return slots_[SlotOf(HashName(name, owner), owner, name)];
+  return slots_[SlotOf(HashName(name, seed_ + owner), owner, name)];
 }
 
 ProfileReader::ProfileReader(const std::wstring& path) {

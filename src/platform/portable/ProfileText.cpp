@@ -87,8 +87,7 @@ bool SameName(std::wstring_view a, std::wstring_view b) {
 
 std::uint64_t HashName(std::wstring_view name, std::uint64_t seed) {
   constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  // Bit 5 is what the cases of an ASCII letter differ in.
-  const auto fold = [](wchar_t c) { return std::uint64_t{static_cast<std::uint32_t>(c) | 0x20u}; };
+  const auto fold = [](wchar_t c) { return std::uint64_t{static_cast<std::uint32_t>(Fold(c))}; };
   std::uint64_t hash = (seed + 1) * kMultiplier;
   for (; name.size() >= 2; name.remove_prefix(2)) {
     hash = (hash ^ fold(name[0]) ^ fold(name[1]) << 32) * kMultiplier;

@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <system_error>
 
+#include <io.h>
 #include <share.h>
-
-#include "platform/TextEncoding.h"
+#include <sys/stat.h>
 
 namespace tavrin::platform {
 
@@ -14,11 +14,16 @@ bool FileExists(const std::wstring& path) {
   return std::filesystem::exists(std::filesystem::path(path), error);
 }
 
-bool IsRegularFile(const std::string& path) {
-  std::wstring wide;
-  std::error_code error;
-  return ToWide(path, &wide) &&
-         std::filesystem::is_regular_file(std::filesystem::path(wide), error);
+std::FILE* OpenRegularFile(const std::string& path, std::uint64_t* size) {
+  std::FILE* file = _fsopen(path.c_str(), "rb", _SH_DENYNO);
+  if (file == nullptr) return nullptr;
+  struct _stat64 status = {};
+  if (_fstat64(_fileno(file), &status) != 0 || (status.st_mode & _S_IFMT) != _S_IFREG) {
+    std::fclose(file);
+    return nullptr;
+  }
+  *size = static_cast<std::uint64_t>(status.st_size);
+  return file;
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {
