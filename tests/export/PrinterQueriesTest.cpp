@@ -144,6 +144,26 @@ TEST_F(PrinterQueries, ModesAnswerByIndex) {
       << "a missing mode records nothing";
 }
 
+TEST_F(PrinterQueries, LayersCountInTheHeightAs32Bits) {
+  const struct {
+    const char* height;
+    const char* slice;
+    std::int32_t layers;
+  } cases[] = {
+      {"0.99", "0.1", 9},         {"1", "-0.3", -3},
+      {"3000000", "1", -2147483},  // the height is beyond 32 bits
+      {"nan", "2147483", -1},     {"0", "0", std::numeric_limits<std::int32_t>::min()},
+  };
+  for (const auto& c : cases) {
+    ASSERT_TRUE(InitializeDefinition(
+        std::string("PrinterSize=1,1,") + c.height +
+        "\nMode=1\nMode1=1,1\nMode1ColorThickness=1\nMode1SliceSize=" + c.slice + "\n"));
+    std::int32_t mode[6] = {};
+    ASSERT_TRUE(TavrinGetModeConfig(0, mode));
+    EXPECT_EQ(mode[4], c.layers) << c.height << '/' << c.slice;
+  }
+}
+
 TEST_F(PrinterQueries, InfoHoldsThreeFieldsOf128Bytes) {
   const std::string full(128, 'v');
   ASSERT_TRUE(Initialize("[printer]\nModelName=M\nVersion=" + full + "\nIPAddress=10.0.0.1\n"));

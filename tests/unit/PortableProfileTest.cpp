@@ -155,6 +155,34 @@ TEST_F(PortableProfile, WritesTouchOneLine) {
   }
 }
 
+TEST_F(PortableProfile, NamesThatShareAllBitsButOneTakeLinearTime) {
+  // Each pair differs in the bit that the cases of a letter differ in, and in nothing else.
+  for (const char* pair : {"0\x10", "@`", "[{"}) {
+    std::string content = "[S]\nK=v\n";
+    for (int name = 0; name < 1 << 17; ++name) {
+      content += 'n';
+      for (int bit = 0; bit < 17; ++bit)
+        content += pair[name >> bit & 1];
+      content += "=w\n";
+    }
+    Put(content);
+    EXPECT_EQ(Read(), L"v") << pair;
+  }
+}
+
+TEST_F(PortableProfile, AFailedFirstWriteLeavesNoFile) {
+  rlimit limit = {};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const rlimit lowered = {4, limit.rlim_max};
+  const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &lowered), 0);
+  const bool isWritten = Write(L"v");
+  setrlimit(RLIMIT_FSIZE, &limit);
+  std::signal(SIGXFSZ, previousHandler);
+  EXPECT_FALSE(isWritten);
+  EXPECT_FALSE(std::filesystem::exists(Path()));
+}
+
 TEST_F(PortableProfile, AReaderKeepsTheContentItFound) {
   Put("[S]\nK=1\n");
   const ProfileReader reader(Path());
