@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
-#include "definition/FileBytes.h"
+#include "bench/FileFloor.h"
 #include "definition/FileCipher.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
+#include "util/TextUtilities.h"
 
 namespace tavrin::bench {
 
@@ -28,23 +27,18 @@ class RecordingIni : public IniFile {
   std::vector<std::string> keys;
 };
 
-std::string InTemporaryFolder(const char* name) {
-  return (std::filesystem::temp_directory_path() / name).string();
-}
-
-void Write(const std::string& path, const std::string& bytes) {
-  WriteFileBytes(path, reinterpret_cast<const unsigned char*>(bytes.data()),
-                 static_cast<std::uint32_t>(bytes.size()));
-}
-
 std::vector<std::string> KeysAskedOf(const std::string& plain) {
   const std::string path = InTemporaryFolder("tavrin-bench.ini");
-  Write(path, plain);
+  WriteBare(path, plain);
   RecordingIni ini;
   ini.Open(WideCopy(path));
   PrinterConfig().ParseOpened(ini);
   std::remove(path.c_str());
   return ini.keys;
+}
+
+std::string Example(const std::string& name) {
+  return ReadBare(TAVRIN_EXAMPLES_DIR "/" + name);
 }
 
 }  // namespace
@@ -54,17 +48,27 @@ BenchDefinition::BenchDefinition(const std::string& plain)
   std::string block = plain;
   EncryptBuffer(reinterpret_cast<unsigned char*>(block.data()),
                 static_cast<std::uint32_t>(block.size()));
-  Write(path_, block);
+  WriteBare(path_, block);
 }
 
 BenchDefinition::~BenchDefinition() {
   std::remove(path_.c_str());
 }
 
+std::string InTemporaryFolder(const char* name) {
+  return (std::filesystem::temp_directory_path() / name).string();
+}
+
 std::string RichExample() {
-  std::ostringstream text;
-  text << std::ifstream(TAVRIN_EXAMPLES_DIR "/full-colour.ini", std::ios::binary).rdbuf();
-  return text.str();
+  return Example("full-colour.ini");
+}
+
+std::string CompactExample() {
+  return Example("compact.ini");
+}
+
+std::string MinimalExample() {
+  return Example("minimal.ini");
 }
 
 std::string PaddedExample() {
@@ -74,6 +78,21 @@ std::string PaddedExample() {
     text += "Padding" + std::to_string(line) + "=0.0421,1\n";
   }
   return text;
+}
+
+std::string Synthetic(int keys) {
+  const int slots = keys / 4;
+  const std::string count = std::to_string(slots);
+  std::string text = "[printer]\nVersion=1\nNumOfColor=" + count + "\nPrinterInkSlotNum=" + count;
+  for (int slot = 1; slot <= slots; ++slot) {
+    const std::string number = std::to_string(slot);
+    const std::string color = "\nColor" + FormatThreeDigits(slot);
+    text += color + "Code=" + number;
+    text += color + "Name=Colour " + number;
+    text += "\nColorCodeInkSlot" + number + "=" + number;
+    text += "\nInkTypeCodeInkSlot" + number + "=113";
+  }
+  return text + "\n";
 }
 
 }  // namespace tavrin::bench

@@ -21,10 +21,18 @@ class BenchDefinition {
   std::vector<std::string> keys_;
 };
 
-/// The full-colour example.
-std::string RichExample();
+/// A path in the temporary directory.
+std::string InTemporaryFolder(const char* name);
 
-/// The full-colour example with its section padded to ten times the lines.
+std::string RichExample();
+std::string CompactExample();
+std::string MinimalExample();
+
+/// The rich example with its section padded to ten times the lines.
 std::string PaddedExample();
+
+/// A definition of about this many keys, all of which are read: slots, each with a colour of its
+/// own.
+std::string Synthetic(int keys);
 
 }  // namespace tavrin::bench

@@ -1,8 +1,10 @@
 // What one question costs.
 #include <benchmark/benchmark.h>
 
+#include "InkSlot.h"
 #include "TavrinLib.h"
 #include "bench/BenchDefinition.h"
+#include "bench/EmptyExport.h"
 
 namespace tavrin::bench {
 namespace {
@@ -14,6 +16,14 @@ void Query(benchmark::State& state, Ask ask) {
   for (auto _ : state)
     benchmark::DoNotOptimize(ask());
   TavrinFinalize();
+}
+
+void Empty(benchmark::State& state) {
+  Query(state, [] {
+    uint32_t value = 0;
+    EmptyExport(&value);
+    return value;
+  });
 }
 
 void Scalar(benchmark::State& state) {
@@ -48,10 +58,44 @@ void Info(benchmark::State& state) {
   });
 }
 
+void InkSlots(benchmark::State& state) {
+  Query(state, [] {
+    InkSlot* slot = nullptr;
+    TavrinGetInkSlot(8, &slot);
+    return slot->IsValid();
+  });
+}
+
+void InkName(benchmark::State& state) {
+  Query(state, [] {
+    InkSlot* slot = nullptr;
+    TavrinGetInkSlot(1, &slot);
+    char* name = nullptr;
+    int32_t size = 0;
+    slot->GetInkName(&name, &size);
+    delete[] name;
+    return size;
+  });
+}
+
+void InkCategory(benchmark::State& state) {
+  Query(state, [] {
+    int32_t* numbers = nullptr;
+    int32_t count = 0;
+    TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &count);
+    delete[] numbers;
+    return count;
+  });
+}
+
+BENCHMARK(Empty);
 BENCHMARK(Scalar);
 BENCHMARK(ModeConfig);
 BENCHMARK(SideSupport);
 BENCHMARK(Info);
+BENCHMARK(InkSlots);
+BENCHMARK(InkName);
+BENCHMARK(InkCategory);
 
 }  // namespace
 }  // namespace tavrin::bench
