@@ -1,6 +1,7 @@
 #include "definition/InkTables.h"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -14,13 +15,14 @@ namespace tavrin {
 namespace {
 
 /// The indices from 1 to count that can have an entry, in rising order. A count may be far beyond
-/// the entries that are there, so one of more than three digits is held against the keys.
+/// the entries that are there, so one that no machine has is held against the keys.
 std::vector<std::int32_t> EntryIndices(IniFile& ini, const std::string& prefix,
                                        std::int32_t count) {
+  constexpr std::int32_t kMostOfAMachine = 64;
   std::vector<std::int32_t> indices;
-  if (count <= 999) {
-    for (std::int32_t index = 1; index <= count; ++index)
-      indices.push_back(index);
+  if (count <= kMostOfAMachine) {
+    indices.resize(static_cast<std::size_t>(count));
+    std::iota(indices.begin(), indices.end(), 1);
     return indices;
   }
   for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection))) {
@@ -68,6 +70,21 @@ bool ReadInkSlot(IniFile& ini, std::int32_t number, InkModel* inks) {
                           static_cast<std::uint32_t>(inkTypeCode));
 }
 
+/// Reads the slots up to the first that is not complete.
+///
+/// @return whether there is a count of at least 1 and every slot up to it is complete.
+bool ReadCountedInkSlots(IniFile& ini, InkModel* inks) {
+  std::int32_t count = 0;
+  if (!ini.ReadInt(kPrinterSection, "PrinterInkSlotNum", &count) || count < 1) return false;
+  inks->InkSlotNum = count;
+  // The count may be INT32_MAX, so a number is compared before it is raised.
+  for (std::int32_t number = 0; number < count;) {
+    ++number;
+    if (!ReadInkSlot(ini, number, inks)) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 bool ReadColors(IniFile& ini, InkModel* inks) {
@@ -83,14 +100,7 @@ bool ReadInkTypes(IniFile& ini, InkModel* inks) {
 bool ReadInkSlots(IniFile& ini, InkModel* inks) {
   inks->InkSlots.clear();
   inks->InkSlotNum = 0;
-  std::int32_t count = 0;
-  const bool counted = ini.ReadInt(kPrinterSection, "PrinterInkSlotNum", &count) && count >= 1;
-  inks->InkSlotNum = counted ? count : 0;
-  // The count may be INT32_MAX, so the number is compared before it is raised.
-  bool complete = counted;
-  for (std::int32_t number = 0; complete && number < count;) {
-    complete = ReadInkSlot(ini, ++number, inks);
-  }
+  const bool complete = ReadCountedInkSlots(ini, inks);
   if (!complete) inks->SetDefaultInkSlots();
   return complete;
 }

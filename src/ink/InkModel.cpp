@@ -1,7 +1,5 @@
 #include "ink/InkModel.h"
 
-#include <algorithm>
-
 #include "ink/InkSlotImpl.h"
 #include "ink/InvalidInkSlot.h"
 
@@ -50,10 +48,8 @@ bool InkModel::AddInkSlot(std::uint32_t slot, std::uint32_t colorCode, std::uint
 }
 
 NumberedInkSlot* InkModel::FindInkSlot(std::uint32_t slotNumber) const {
-  const auto found = std::find_if(InkSlots.begin(), InkSlots.end(), [&](const auto& slot) {
-    return slot->GetSlotNumber() == slotNumber;
-  });
-  return found == InkSlots.end() ? nullptr : found->get();
+  const std::size_t index = std::size_t{slotNumber} - 1;  // 0 wraps to beyond every slot
+  return index < InkSlots.size() ? InkSlots[index].get() : nullptr;
 }
 
 }  // namespace tavrin

@@ -16,7 +16,6 @@ namespace tavrin {
 /// slots and categories in this order.
 class InkModel {
  public:
-  using Category = std::unique_ptr<InkCategoryImpl>;
   using SlotGroup = std::vector<const NumberedInkSlot*>;
 
   InkModel() = default;
@@ -46,7 +45,7 @@ class InkModel {
   InkTable InkTypes;
   std::vector<std::unique_ptr<NumberedInkSlot>> InkSlots;  ///< at slot number - 1
   std::int32_t InkSlotNum = 0;
-  std::vector<Category> InkCategories;
+  std::vector<std::unique_ptr<InkCategoryImpl>> InkCategories;
 
  private:
   /// Groups the slots by ink id and colour, each group and the groups themselves in slot order.

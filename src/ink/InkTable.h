@@ -13,8 +13,6 @@ namespace tavrin {
 /// The colours or the ink types that a printer knows, in the order of the definition file.
 class InkTable {
  public:
-  using Entries = std::vector<std::unique_ptr<IdentifiableData>>;
-
   void Add(std::int32_t code, const std::string& name);
   void Clear();
 
@@ -23,11 +21,10 @@ class InkTable {
   const IdentifiableData* Find(std::int32_t code) const;
 
   std::size_t size() const { return entries_.size(); }
-  bool empty() const { return entries_.empty(); }
   const IdentifiableData& operator[](std::size_t index) const { return *entries_[index]; }
 
  private:
-  Entries entries_;
+  std::vector<std::unique_ptr<IdentifiableData>> entries_;
   std::map<std::int32_t, const IdentifiableData*> byCode_;
 };
 

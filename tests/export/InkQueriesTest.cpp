@@ -1,3 +1,4 @@
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -33,20 +34,23 @@ std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_
 TEST_F(InkQueries, WithoutADefinitionEachFails) {
   std::uint32_t count = 7;
   std::int32_t signedCount = 7;
-  std::int32_t* numbers = nullptr;
+  std::int32_t* numbers = &signedCount;
   InkSlot* slot = nullptr;
-  const bool results[] = {
-      TavrinGetItemCountOfInkCategory(&count),
-      TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &signedCount),
-      TavrinGetItemCountOfInkSlot(&count),
-      TavrinGetInkSlot(1, &slot),
-      TavrinGetInkSlot(1, nullptr),
+  const std::function<bool()> queries[] = {
+      [&] { return TavrinGetItemCountOfInkCategory(&count); },
+      [&] { return TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &signedCount); },
+      [&] { return TavrinGetItemCountOfInkSlot(&count); },
+      [&] { return TavrinGetInkSlot(1, &slot); },
+      [&] { return TavrinGetInkSlot(1, nullptr); },
   };
-  for (const bool result : results)
-    EXPECT_FALSE(result);
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  for (const auto& query : queries) {
+    SetLastErrorAside();
+    EXPECT_FALSE(query());
+    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  }
   EXPECT_EQ(count, 7u);
   EXPECT_EQ(signedCount, 7);
+  EXPECT_EQ(numbers, &signedCount);
 }
 
 TEST_F(InkQueries, TheBuiltInSlotsMakeSixCategories) {

@@ -3,6 +3,7 @@
 #include "definition/FileCipher.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TemporaryPath.h"
+#include "output/ModelingConditionsWriter.h"
 #include "platform/StreamCipher.h"
 #include "support/TestFiles.h"
 
@@ -39,6 +40,22 @@ TEST(CipherFault, ARefusedDecipheringFailsTheLoadBeforeAnyPlainCopy) {
   ASSERT_NE(config.Definition, nullptr);
   EXPECT_EQ(config.Definition->Size(), content.size()) << "the loader keeps the bytes";
   std::filesystem::remove(copyPath);
+}
+
+TEST(CipherFault, ARefusedEncipheringIsWrittenAsItStands) {
+  const test::TestFolder folder;
+  PrinterConfig config;
+  config.Definition = std::make_unique<FileLoader>();
+  ASSERT_TRUE(config.Definition->LoadFromFile(folder.Write("printer.ini", "plain")));
+  const std::string path = folder.PathOf("conditions.dat");
+  EXPECT_TRUE(CreateModelingConditionsWriter(path)->Write(&config));
+  EXPECT_EQ(test::ReadWhole(path), "plain");
+
+  EXPECT_FALSE(CreateModelingConditionsWriter(path)->Write(nullptr));
+  EXPECT_FALSE(
+      CreateModelingConditionsWriter(path)->Write(std::make_unique<PrinterConfig>().get()));
+  config.Definition->Release();
+  EXPECT_FALSE(CreateModelingConditionsWriter(path)->Write(&config));
 }
 
 }  // namespace

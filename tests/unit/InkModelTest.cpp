@@ -98,7 +98,11 @@ TEST(InkTables, InkTypesComeFromTheFileOrAreTheBuiltInOnes) {
 }
 
 TEST(InkTables, EnormousCountsGiveTheEntriesThatAreThere) {
+  std::string filler;
+  for (int i = 0; i < 5000; ++i)
+    filler += "FillerThatMakesTheListOfKeysLong" + std::to_string(i) + "=\n";
   const auto config = Parsed(
+      filler +
       "NumOfColor=2147483647\nColor2000000000Code=1\nColor2000000000Name=Far\n"
       "Color0000000003Code=2\nColor0000000003Name=Padded\ncolor010CODE=3\nCOLOR010name=Near\n"
       "Color2147483647Code=4\nColor2147483647Name=Last\nColor2147483648Code=5\n"

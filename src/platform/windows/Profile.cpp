@@ -34,7 +34,7 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
 std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
   // Each name ends in a NUL, the list in one more. A list that fills the buffer but for two
   // characters has been cut.
-  std::vector<wchar_t> buffer(4096);
+  std::vector<wchar_t> buffer(65536);
   DWORD length = 0;
   for (;;) {
     const auto size = static_cast<DWORD>(buffer.size());
