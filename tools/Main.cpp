@@ -8,6 +8,7 @@
 
 #include "CipherCommands.h"
 #include "ShowCommand.h"
+#include "TavrinVersion.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ int Run(int argc, char** argv) {
   CLI::App app("Makes, reads and shows the printer definition files of TavrinLib", "tavrin");
   // A path that starts with a slash is a path everywhere.
   app.allow_windows_style_options(false);
-  app.set_version_flag("--version", "tavrin " TAVRIN_VERSION);
+  app.set_version_flag("--version", "tavrin " TAVRIN_VERSION_STRING);
   app.failure_message(UsageMessage);
   // A command is not required here, so that a misspelt one is reported as such.
   app.require_subcommand(0, 1);

@@ -36,6 +36,8 @@
 #endif
 #include <stdint.h>
 
+#include "TavrinVersion.h"
+
 /* Windows marks what a library exports and what its users import; elsewhere visibility does. */
 #if defined(_WIN32)
 #if defined(TAVRIN_BUILDING_LIBRARY)

@@ -1,0 +1,52 @@
+# Holds the list of exports against the built library, the header and the program that refers to
+# every export: cmake -DFORMAT=elf|pe -DLIBRARY=... -DPROGRAM=... -DSOURCES=... -DNM=...
+# -DOBJDUMP=... -P ExportsTest.cmake
+cmake_minimum_required(VERSION 3.22)
+include(${CMAKE_CURRENT_LIST_DIR}/Expect.cmake)
+
+# names(<variable> <text> <pattern> [<rest of the line>]): what each match leaves without the rest.
+function(names variable text pattern rest)
+  string(REGEX MATCHALL "${pattern}" matches "${text}")
+  list(TRANSFORM matches REPLACE "${rest}" "")
+  set(${variable} "${matches}" PARENT_SCOPE)
+endfunction()
+
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/exports.txt lines REGEX "^[^#]")
+foreach(line IN LISTS lines)
+  if(NOT line MATCHES "^(function|elf|pe|elf-needs|pe-needs) ([^ ]+)$")
+    message(FATAL_ERROR "exports.txt: '${line}'")
+  endif()
+  list(APPEND ${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
+endforeach()
+
+file(READ ${SOURCES}/api/TavrinLib.h header)
+names(declared "${header}" "\nTAVRIN_API [a-z0-9_]+ [A-Za-z0-9_]+" ".* ")
+expect_same("Declared in TavrinLib.h" "${function}" "${declared}")
+
+file(READ ${SOURCES}/api/exports.map map)
+names(mapped "${map}" "\n +Tavrin[^;]*;" "[\n ;]")
+expect_same("Named in exports.map" "${function}" "${mapped}")
+
+ask(dump ${OBJDUMP} -p ${LIBRARY})
+if(FORMAT STREQUAL "elf")
+  ask(symbols ${NM} -D --defined-only --format=posix ${LIBRARY})
+  names(exported "\n${symbols}" "\n[^ \n]+" "\n")
+  names(needed "${dump}" "NEEDED +[^\n]+" "NEEDED +")
+  ask(symbols ${NM} -D --undefined-only --format=posix ${PROGRAM})
+  names(used "\n${symbols}" "\nTavrin[^ \n]+" "\n")
+else()
+  names(needed "${dump}" "DLL Name: [^\r\n]+" "DLL Name: ")
+  string(REGEX REPLACE ".*\n.Ordinal/Name Pointer. Table[^\n]*" "" symbols "${dump}")
+  string(REGEX REPLACE "\n\r?\n.*" "\n" symbols "${symbols}")
+  names(exported "${symbols}" "[^ \t\r\n]+\r?\n" "[\r\n]")
+  ask(dump ${OBJDUMP} -p ${PROGRAM})
+  names(used "${dump}" "[ \t]Tavrin[A-Za-z0-9_]+\r?\n" "[ \t\r\n]")
+endif()
+expect_same("Exported by ${LIBRARY}" "${function};${${FORMAT}}" "${exported}")
+expect_same("Referred to by ${PROGRAM}" "${function}" "${used}")
+
+# Which of them a build loads depends on its compiler.
+list(REMOVE_ITEM needed ${${FORMAT}-needs})
+if(needed)
+  message(SEND_ERROR "${LIBRARY} loads ${needed}")
+endif()
