@@ -1,8 +1,9 @@
 #pragma once
 
-#include <algorithm>
 #include <stdexcept>
 #include <string>
+
+#include "TextForms.h"
 
 namespace tavrin::tool {
 
@@ -11,16 +12,8 @@ namespace tavrin::tool {
 class Failure : public std::runtime_error {
  public:
   Failure(const std::string& file, const std::string& reason, const std::string& remedy)
-      : std::runtime_error((file.empty() ? "\"\"" : OneLine(file)) + ": " + reason + " (" + remedy +
-                           ")") {}
-
- private:
-  /// A file name may hold a line end.
-  static std::string OneLine(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
-    return text;
-  }
+      : std::runtime_error((file.empty() ? "\"\"" : Printable(file)) + ": " + reason + " (" +
+                           remedy + ")") {}
 };
 
 }  // namespace tavrin::tool

@@ -49,6 +49,13 @@ bool WriteAll(std::FILE* stream, const Bytes& bytes) {
   return std::fflush(stream) == 0;
 }
 
+void Print(const Bytes& bytes) {
+  if (!WriteAll(stdout, bytes)) {
+    throw Failure("standard output", "cannot be written: " + SystemMessage(),
+                  "check where it leads to");
+  }
+}
+
 bool ReadAll(std::istream& stream, Bytes* bytes) {
   for (std::size_t done = 0; done < bytes->size();) {
     const std::size_t piece = std::min(kPieceSize, bytes->size() - done);
@@ -128,10 +135,11 @@ void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::per
 
 void WriteStandardOutput(const Bytes& bytes) {
   MakeStandardOutputBinary();
-  if (!WriteAll(stdout, bytes)) {
-    throw Failure("standard output", "cannot be written: " + SystemMessage(),
-                  "check where it leads to");
-  }
+  Print(bytes);
+}
+
+void PrintText(const std::string& text) {
+  Print(Bytes(text.begin(), text.end()));
 }
 
 }  // namespace tavrin::tool

@@ -28,4 +28,7 @@ void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::per
 /// Writes the bytes unchanged to standard output.
 void WriteStandardOutput(const Bytes& bytes);
 
+/// Prints text to standard output, with the platform's line ends.
+void PrintText(const std::string& text);
+
 }  // namespace tavrin::tool

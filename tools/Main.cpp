@@ -9,6 +9,7 @@
 #include "CipherCommands.h"
 #include "ShowCommand.h"
 #include "TavrinVersion.h"
+#include "TemplateCommand.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ struct Arguments {
   std::string ini;
   std::string definition;
   std::optional<std::string> plainOutput;
+  std::string showFormat = "text";
 };
 
 void AddEncipher(CLI::App* app, Arguments* arguments) {
@@ -44,8 +46,33 @@ void AddDecipher(CLI::App* app, Arguments* arguments) {
 void AddShow(CLI::App* app, Arguments* arguments) {
   CLI::App* command = app->add_subcommand("show", "Print what a printer definition says");
   command->add_option("DEFINITION", arguments->definition, "The printer definition")->required();
-  command->footer("Example: tavrin show printer.dat");
-  command->callback([arguments] { tavrin::tool::Show(arguments->definition); });
+  command->add_option("--format", arguments->showFormat, "text for people, json for programs")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->capture_default_str();
+  command->footer(
+      "Prints every answer that a host gets from the library, defaults included. Lengths are in\n"
+      "mm in the text; in the JSON a field's name says its unit (docs/show-json.md).\n"
+      "Exit status: 0, or 1 when the definition cannot be loaded or one of its texts is too long\n"
+      "to be handed out.\n\n"
+      "Example: tavrin show printer.dat\n"
+      "         tavrin show --format=json printer.dat");
+  command->callback([arguments] {
+    using tavrin::tool::ShowFormat;
+    tavrin::tool::Show(arguments->definition,
+                       arguments->showFormat == "json" ? ShowFormat::Json : ShowFormat::Text);
+  });
+}
+
+void AddTemplate(CLI::App* app) {
+  CLI::App* command =
+      app->add_subcommand("template", "Print a plain INI file to make a definition from");
+  command->footer(
+      "It has every key, with meaning, unit, default and range. As it stands it loads to the\n"
+      "library's own defaults: change the values that differ in your printer, and take away the\n"
+      "';' before the keys that it needs. docs/definition-file.md has the rules in full.\n\n"
+      "Example: tavrin template > printer.ini\n"
+      "         tavrin encipher printer.ini printer.dat");
+  command->callback(tavrin::tool::PrintTemplate);
 }
 
 std::string UsageMessage(const CLI::App* /*app*/, const CLI::Error& error) {
@@ -67,6 +94,7 @@ int Run(int argc, char** argv) {
   AddEncipher(&app, &arguments);
   AddDecipher(&app, &arguments);
   AddShow(&app, &arguments);
+  AddTemplate(&app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iomanip>
 
+#include "TextForms.h"
+
 namespace tavrin::tool {
 
 namespace {
@@ -11,9 +13,6 @@ constexpr int kLabelWidth = 30;
 
 }  // namespace
 
-Report::Report(const std::string& file, std::ostream& out) : file_(file), out_(out) {
-}
-
 void Report::Section(const std::string& title) {
   if (started_) out_ << '\n';
   started_ = true;
@@ -21,16 +20,18 @@ void Report::Section(const std::string& title) {
 }
 
 void Report::Value(const std::string& label, const std::string& value) {
-  out_ << "  " << std::left << std::setw(kLabelWidth) << label << value << '\n';
+  out_ << "  " << std::left << std::setw(kLabelWidth) << label << Printable(value) << '\n';
 }
 
-void Report::Table(const Row& header, const std::vector<Row>& rows) {
+void Report::Table(const Row& header, std::vector<Row> rows) {
   std::vector<std::size_t> widths;
   for (const std::string& cell : header)
     widths.push_back(cell.size());
-  for (const Row& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i)
+  for (Row& row : rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      row[i] = Printable(row[i]);
       widths[i] = std::max(widths[i], row[i].size());
+    }
   }
   TableRow(header, widths);
   for (const Row& row : rows)

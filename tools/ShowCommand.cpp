@@ -1,24 +1,16 @@
 #include "ShowCommand.h"
 
 #include <algorithm>
-#include <iostream>
 
+#include "FactsJson.h"
+#include "FactsText.h"
 #include "Failure.h"
 #include "FileTransfer.h"
-#include "Report.h"
-#include "ShowInks.h"
-#include "ShowSections.h"
 #include "TavrinLib.h"
 
 namespace tavrin::tool {
 
 namespace {
-
-using ShowSection = void (*)(Report*);
-
-constexpr ShowSection kSections[] = {ShowIdentity, ShowBuildVolume, ShowModes,
-                                     ShowSupport,  ShowMachine,     ShowInkSlots,
-                                     ShowColors,   ShowInkTypes,    ShowInkCategories};
 
 /// The definition stays loaded for this object's life.
 class LoadedDefinition {
@@ -53,17 +45,13 @@ Failure Diagnose(const std::string& file) {
 
 }  // namespace
 
-void Show(const std::string& definition) {
+void Show(const std::string& definition, ShowFormat format) {
   const LoadedDefinition loaded(definition);
   if (!loaded) throw Diagnose(definition);
-  Report report(definition, std::cout);
-  for (const ShowSection section : kSections)
-    section(&report);
-  if (!std::cout.flush()) {
-    throw Failure("standard output", "cannot be written", "check where it leads to");
-  }
-  if (!report.Gap().empty()) {
-    throw Failure(definition, report.Gap(), "shorten it in the INI file");
+  const PrinterFacts facts = AskPrinterFacts();
+  PrintText(format == ShowFormat::Json ? FactsAsJson(facts) : FactsAsText(facts));
+  if (!facts.HasIdentity()) {
+    throw Failure(definition, PrinterFacts::kNoIdentity, "shorten it in the INI file");
   }
 }
 

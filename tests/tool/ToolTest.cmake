@@ -1,12 +1,13 @@
-# Runs the tool as its users do: cmake -DTOOL=... -DEXAMPLES=... -DWORK=... -P ToolTest.cmake
-#   TOOL      the tool's command, behind its emulator where it needs one
-#   EXAMPLES  the directory of the example INI files
-#   WORK      a directory of the test's own, emptied first
+# Runs the tool as its users do: cmake -DTOOL=... -DPROJECT=... -DUTF8=... -DWORK=... -P ToolTest.cmake
+#   TOOL     the tool's command, behind its emulator where it needs one
+#   PROJECT  the directory of the sources
+#   UTF8     whether the process's encoding is UTF-8
+#   WORK     a directory of the test's own, emptied first
 cmake_minimum_required(VERSION 3.22)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/directory)
-file(COPY ${EXAMPLES}/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
+file(COPY ${PROJECT}/examples/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
 # Wine's own remarks would mix with the tool's messages.
 set(ENV{WINEDEBUG} -all)
 
@@ -49,6 +50,14 @@ function(expect_shown)
     string(REPLACE " " " +" pattern "${line}")
     check("show: no line '${line}'" output MATCHES "\n ? ?${pattern}\n")
   endforeach()
+endfunction()
+
+# The value at a path of the JSON that was printed, and its type.
+function(expect_json type value)
+  string(JSON actual_type ERROR_VARIABLE error TYPE "${output}" ${ARGN})
+  string(JSON actual ERROR_VARIABLE error GET "${output}" ${ARGN})
+  check("JSON: ${ARGN}: ${actual_type} ${actual}"
+    actual_type STREQUAL type AND actual STREQUAL value)
 endfunction()
 
 # The keystream itself, against a known answer: what 32 zero bytes are enciphered to.
@@ -94,11 +103,59 @@ succeed(show minimal.dat)
 expect_shown("Model name 5RTV-207" "Width 508.000 mm" "Number of modes 0"
   "Default mode number 2 \\(no mode has it\\)" "Chipping allowance none")
 
+string(ASCII 27 escape)
 string(REPEAT a 129 long)
-file(WRITE ${WORK}/long.ini "[printer]\nVersion=1\nIPAddress=${long}\n")
+file(WRITE ${WORK}/long.ini "[printer]\nModelName=${escape}[2J\nVersion=1\nIPAddress=${long}\n")
 succeed(encipher long.ini long.dat)
 refuse(1 "longer than 128 bytes" show long.dat)
-expect_shown("Version 1" "Network address not handed out" "Width 508.000 mm" "Head band 53.7 mm")
+expect_shown("Model name \\?.2J" "Version 1" "Network address not handed out" "Width 508.000 mm"
+  "Head band 53.7 mm")
+refuse(1 "longer than 128 bytes" show --format=json long.dat)
+expect_json(STRING "1" identity version)
+expect_json(NULL "" identity networkAddress)
+expect_json(NUMBER 508000 buildVolume widthUm)
+
+if(UTF8)
+  string(ASCII 194 155 c1_control)
+  file(WRITE ${WORK}/texts.ini "[printer]\nVersion=${c1_control}1\nModelName=ü€😀\n")
+  succeed(encipher texts.ini texts.dat)
+  succeed(show texts.dat)
+  expect_shown("Model name ü€😀" "Version \\?1")
+  succeed(show --format=json texts.dat)
+  check("JSON: not in ASCII" output MATCHES "\"\\\\u00fc\\\\u20ac\\\\ud83d\\\\ude00\"")
+endif()
+
+# The names of the fields, and the document that lists them.
+succeed(show --format json full-colour.dat)
+expect_json(STRING "Tavrin FC-500" identity modelName)
+expect_json(NUMBER 3750 printModes 5 layers)
+expect_json(BOOLEAN ON printModes 5 limited)
+expect_json(NULL "" printModes 0 continuousLimit)
+expect_json(NUMBER 600 printModes 0 firstValue)
+expect_json(NUMBER 50000 support sideThicknesses 1 modelHeightUm)
+check("JSON: head band" output MATCHES "\"headBandMm\": 53.7,")
+expect_json(STRING "MB-120 Clear" inkSlots 2 inkName)
+expect_json(NUMBER 8 inkCategories 8 slotNumbers 7)
+file(READ ${PROJECT}/docs/show-json.md document)
+string(REGEX MATCHALL "\n\\| `[^`]+" documented "${document}")
+list(TRANSFORM documented REPLACE ".*[`.]" "")
+string(REGEX MATCHALL "\"[a-zA-Z]+\": [^[{]" printed "${output}")
+string(REGEX MATCHALL "\"slotNumbers\": " arrays "${output}")
+list(APPEND printed ${arrays})
+list(TRANSFORM printed REPLACE "\"([a-zA-Z]+).*" "\\1")
+foreach(names documented printed)
+  list(SORT ${names})
+  list(REMOVE_DUPLICATES ${names})
+endforeach()
+check("fields: ${printed}, documented: ${documented}" printed STREQUAL documented)
+
+succeed(template)
+file(READ ${PROJECT}/tools/template.ini template)
+check("the template is not the file" output STREQUAL template)
+file(RENAME ${WORK}/output ${WORK}/template.ini)
+succeed(encipher template.ini template.dat)
+succeed(show template.dat)
+expect_shown("Model name 5RTV-207" "Width 508.000 mm" "Category 0 slots 1, 2")
 
 file(WRITE ${WORK}/empty "")
 file(WRITE ${WORK}/no-version.ini "[printer]\nModelName=a\n")
@@ -129,7 +186,7 @@ expect_same(compact.ini compact.plain)
 file(GLOB leftovers ${WORK}/*.tmp ${WORK}/*/*.tmp ${WORK}/nowhere)
 check("left behind: ${leftovers}" NOT leftovers)
 
-foreach(command encipher decipher show)
+foreach(command encipher decipher show template)
   succeed(${command} --help)
-  check("${command} --help has no example" output MATCHES "Example: tavrin ${command} ")
+  check("${command} --help has no example" output MATCHES "\nExample: tavrin ${command} ")
 endforeach()

@@ -1,0 +1,152 @@
+#include "FactsText.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <sstream>
+
+#include "Report.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+std::string Millimetres(std::int64_t micrometres) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.3f mm", static_cast<double>(micrometres) / 1000.0);
+  return text;
+}
+
+std::string OnOff(bool enabled) {
+  return enabled ? "on" : "off";
+}
+
+std::string OrNone(std::optional<std::int32_t> number) {
+  return number ? std::to_string(*number) : "none";
+}
+
+void ShowIdentity(const PrinterFacts& facts, Report* report) {
+  report->Section("Identity");
+  report->Value("Model name", facts.modelName.value_or("not handed out"));
+  report->Value("Version", facts.version.value_or("not handed out"));
+  report->Value("Network address", facts.networkAddress.value_or("not handed out"));
+  if (!facts.HasIdentity()) report->Value("Note", PrinterFacts::kNoIdentity);
+}
+
+void ShowBuildVolume(const PrinterFacts& facts, Report* report) {
+  report->Section("Build volume");
+  report->Value("Width", Millimetres(facts.widthUm));
+  report->Value("Depth", Millimetres(facts.depthUm));
+  report->Value("Height", Millimetres(facts.heightUm));
+  report->Value("Print margin", Millimetres(facts.printMarginUm));
+}
+
+std::string DefaultMode(const PrinterFacts& facts) {
+  const auto& modes = facts.modes;
+  const auto mode = std::find_if(modes.begin(), modes.end(), [&](const ModeFacts& m) {
+    return m.number == facts.defaultModeNumber;
+  });
+  return std::to_string(facts.defaultModeNumber) +
+         (mode == modes.end() ? " (no mode has it)"
+                              : " (index " + std::to_string(mode - modes.begin()) + ")");
+}
+
+void ShowModes(const PrinterFacts& facts, Report* report) {
+  report->Section("Print modes");
+  std::vector<Report::Row> rows;
+  for (const ModeFacts& mode : facts.modes) {
+    rows.push_back({std::to_string(rows.size()), std::to_string(mode.number),
+                    std::to_string(mode.sliceUm), std::to_string(mode.firstValue),
+                    std::to_string(mode.secondValue), OrNone(mode.layers),
+                    mode.limited ? "yes" : "no", OrNone(mode.continuousLimit)});
+  }
+  if (!rows.empty()) {
+    report->Table({"Index", "Number", "Slice (um)", "First value", "Second value", "Layers",
+                   "Limited", "Continuous limit"},
+                  rows);
+  }
+  report->Value("Number of modes", std::to_string(rows.size()));
+  report->Value("Default mode number", DefaultMode(facts));
+}
+
+void ShowSupport(const PrinterFacts& facts, Report* report) {
+  report->Section("Support");
+  report->Value("Top thickness", Millimetres(facts.topSupportUm));
+  for (const SideSupportFacts& side : facts.sideSupport) {
+    report->Value("Side thickness at " + std::to_string(side.modelHeightUm / 1000) + " mm",
+                  Millimetres(side.thicknessUm));
+  }
+  report->Value("Detach layer", Millimetres(facts.detachLayerUm));
+  report->Value("Size code (-2 to 6)", std::to_string(facts.supportSizeCode));
+}
+
+void ShowMachine(const PrinterFacts& facts, Report* report) {
+  report->Section("Machine");
+  report->Value("Smoothing", OnOff(facts.smoothing));
+  report->Value("Bidirectional feed", OnOff(facts.feedBiDirection));
+  report->Value("Wrap reduction", OnOff(facts.wrapReduction));
+  report->Value("Automatic cleaning", OnOff(facts.autoCleaning));
+  report->Value("Nozzle check while printing", OnOff(facts.nozzleCheck));
+  char band[64];
+  std::snprintf(band, sizeof band, "%g mm", facts.headBandMm);
+  report->Value("Head band", band);
+  const std::int32_t setting = facts.chippingAllowanceSetting;
+  report->Value("Chipping allowance", setting == 0 ? "none" : "setting " + std::to_string(setting));
+}
+
+void ShowSlots(const PrinterFacts& facts, Report* report) {
+  report->Section("Ink slots");
+  std::vector<Report::Row> rows;
+  for (const SlotFacts& slot : facts.slots) {
+    rows.push_back({std::to_string(slot.number), slot.id, std::to_string(slot.colorCode),
+                    std::to_string(slot.inkTypeCode), slot.valid ? slot.name : "(unknown ink)"});
+  }
+  report->Table({"Slot", "Ink id", "Colour code", "Ink type code", "Ink"}, rows);
+}
+
+/// Which slots hold what a code stands for. Names of single colours and ink types are not handed
+/// out, only those of whole inks.
+void ShowCodes(const PrinterFacts& facts, const char* title, std::int32_t SlotFacts::*code,
+               Report* report) {
+  report->Section(title);
+  std::map<std::int32_t, std::string> slotsOfCode;
+  for (const SlotFacts& slot : facts.slots) {
+    if (!slot.valid) continue;
+    std::string& list = slotsOfCode[slot.*code];
+    list += (list.empty() ? "" : ", ") + std::to_string(slot.number);
+  }
+  for (const auto& [value, list] : slotsOfCode)
+    report->Value("Code " + std::to_string(value), "slots " + list);
+  if (slotsOfCode.empty()) report->Value("None", "no slot is valid");
+}
+
+void ShowCategories(const PrinterFacts& facts, Report* report) {
+  report->Section("Ink categories");
+  const std::size_t count = facts.categories.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    std::string list;
+    for (const std::int32_t number : facts.categories[i])
+      list += (list.empty() ? "slots " : ", ") + std::to_string(number);
+    const char* total = i + 1 == count ? ": all ink" : i + 2 == count ? ": model ink" : "";
+    report->Value("Category " + std::to_string(i) + total, list.empty() ? "no slots" : list);
+  }
+}
+
+}  // namespace
+
+std::string FactsAsText(const PrinterFacts& facts) {
+  std::ostringstream text;
+  Report report(text);
+  ShowIdentity(facts, &report);
+  ShowBuildVolume(facts, &report);
+  ShowModes(facts, &report);
+  ShowSupport(facts, &report);
+  ShowMachine(facts, &report);
+  ShowSlots(facts, &report);
+  ShowCodes(facts, "Colours in the slots", &SlotFacts::colorCode, &report);
+  ShowCodes(facts, "Ink types in the slots", &SlotFacts::inkTypeCode, &report);
+  ShowCategories(facts, &report);
+  return text.str();
+}
+
+}  // namespace tavrin::tool

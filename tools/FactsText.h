@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "PrinterFacts.h"
+
+namespace tavrin::tool {
+
+/// The facts as a report for people.
+std::string FactsAsText(const PrinterFacts& facts);
+
+}  // namespace tavrin::tool
