@@ -50,8 +50,8 @@ void AddShow(CLI::App* app, Arguments* arguments) {
       ->check(CLI::IsMember({"text", "json"}))
       ->capture_default_str();
   command->footer(
-      "Prints every answer that a host gets from the library, defaults included. Lengths are in\n"
-      "mm in the text; in the JSON a field's name says its unit (docs/show-json.md).\n"
+      "Prints every answer that a host gets from the library, defaults included.\n"
+      "docs/show-json.md describes the JSON.\n"
       "Exit status: 0, or 1 when the definition cannot be loaded or one of its texts is too long\n"
       "to be handed out.\n\n"
       "Example: tavrin show printer.dat\n"
