@@ -46,7 +46,8 @@ bool PrintModes() {
   for (std::int32_t i = 0; i < static_cast<std::int32_t>(count); ++i) {
     std::int32_t mode[6];
     if (!Check("TavrinGetModeConfig", TavrinGetModeConfig(i, mode))) return false;
-    std::printf("Mode %d: slices of %d um, at most %d of them\n", mode[0], mode[1], mode[4]);
+    std::printf("Mode %d: slices of %d um, at most %d of them\n", mode[0], mode[1],
+                mode[4] == INT32_MIN ? 0 : mode[4]);
   }
   return true;
 }
