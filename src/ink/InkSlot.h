@@ -24,7 +24,9 @@
 class TAVRIN_CLASS InkSlot {
  public:
   InkSlot() = default;
+  /// Only the library makes and copies slots.
   InkSlot(const InkSlot&) = default;
+  /// Only the library makes and copies slots.
   InkSlot& operator=(const InkSlot&) = default;
   virtual ~InkSlot() = default;
 
