@@ -9,7 +9,7 @@
 
 #include "Failure.h"
 #include "FilePath.h"
-#include "StandardOutput.h"
+#include "StandardStreams.h"
 #include "TemporaryFile.h"
 
 namespace tavrin::tool {
@@ -131,6 +131,21 @@ void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::per
     throw Failure(file, "cannot be replaced: " + error.message(),
                   "check its name and permissions, and that no program has it open");
   }
+}
+
+Bytes ReadStandardInput() {
+  MakeStandardInputBinary();
+  Bytes bytes;
+  unsigned char piece[4096];
+  std::size_t n = 0;
+  while ((n = std::fread(piece, 1, sizeof piece, stdin)) > 0)
+    bytes.insert(bytes.end(), piece, piece + n);
+  if (std::ferror(stdin) != 0) {
+    throw Failure("standard input", "cannot be read: " + SystemMessage(),
+                  "check where it comes from");
+  }
+  if (bytes.empty()) throw Failure("standard input", "is empty", "pass a definition");
+  return bytes;
 }
 
 void WriteStandardOutput(const Bytes& bytes) {

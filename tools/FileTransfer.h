@@ -21,6 +21,9 @@ void CheckOutput(const std::string& input, const std::string& output);
 /// Reads the whole file, or refuses it as CheckInput does.
 Bytes ReadFile(const std::string& file);
 
+/// Reads standard input to its end, or refuses it when it is empty.
+Bytes ReadStandardInput();
+
 /// Writes the file in one step: either it holds all the bytes afterwards, or it is as it was.
 /// Until then its bytes can be read by the owner alone.
 void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions);

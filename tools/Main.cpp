@@ -10,6 +10,7 @@
 #include "ShowCommand.h"
 #include "TavrinVersion.h"
 #include "TemplateCommand.h"
+#include "check/CheckCommand.h"
 
 namespace {
 
@@ -95,12 +96,14 @@ int Run(int argc, char** argv) {
   AddDecipher(&app, &arguments);
   AddShow(&app, &arguments);
   AddTemplate(&app);
+  int status = 0;
+  tavrin::tool::AddCheck(&app, &status);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : kUsageError;
   }
-  return 0;
+  return status;
 }
 
 }  // namespace

@@ -19,6 +19,8 @@ class TemporaryFile {
   /// The open file; null, with the reason in errno, when it could not be created.
   std::FILE* Stream() const { return stream_.get(); }
 
+  const std::filesystem::path& Path() const { return path_; }
+
   /// @return false, with the reason in errno, when the last bytes could not be written.
   bool Close();
 

@@ -1,0 +1,100 @@
+#include "check/CheckCommand.h"
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "Failure.h"
+#include "FileTransfer.h"
+#include "StandardStreams.h"
+#include "check/FindingsOutput.h"
+#include "check/PlainText.h"
+#include "check/Reading.h"
+#include "check/Rules.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+constexpr int kUnreadable = 3;
+
+const std::map<std::string, Severity> kThresholds = {
+    {"note", Severity::Note}, {"warning", Severity::Warning}, {"error", Severity::Error}};
+
+struct CheckOptions {
+  std::vector<std::string> files;
+  Severity threshold = Severity::Warning;
+  bool quiet = false;
+  std::string color = "auto";
+  std::string format = "text";
+};
+
+Findings CheckFile(const std::string& file) {
+  return FindAll(Reading(PlainTextOf(file == "-" ? ReadStandardInput() : ReadFile(file))));
+}
+
+/// @return the exit status.
+int CheckFiles(const CheckOptions& options) {
+  const bool asJson = options.format == "json";
+  const bool inColor =
+      options.color == "always" || (options.color == "auto" && PrepareTerminalColors());
+  auto objects = nlohmann::ordered_json::array();
+  int status = 0;
+  for (const std::string& file : options.files) {
+    try {
+      for (const Finding& finding : CheckFile(file)) {
+        if (finding.severity < options.threshold) continue;
+        status = std::max(status, static_cast<int>(finding.severity));
+        if (asJson) objects.push_back(ToJson(file, finding));
+        if (!asJson && !options.quiet) PrintFinding(file, finding, inColor, std::cout);
+      }
+    } catch (const std::exception& error) {
+      std::cerr << "tavrin: " << error.what() << '\n';
+      status = kUnreadable;
+    }
+  }
+  if (asJson && !options.quiet)
+    std::cout << objects.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
+              << '\n';
+  if (!std::cout.flush()) {
+    throw Failure("standard output", "cannot be written", "check where it leads to");
+  }
+  return status;
+}
+
+}  // namespace
+
+void AddCheck(CLI::App* app, int* status) {
+  const auto options = std::make_shared<CheckOptions>();
+  CLI::App* command = app->add_subcommand(
+      "check", "Tell what the library makes of definitions, and what in them goes wrong");
+  command
+      ->add_option("FILE", options->files,
+                   "Plain INI files or printer definitions, in any mix; - is standard input")
+      ->required();
+  command
+      ->add_option("--threshold", options->threshold,
+                   "The least severity that is reported and counts: note, warning or error; "
+                   "warning without it")
+      ->transform(CLI::CheckedTransformer(kThresholds).description(""));
+  command->add_flag("--quiet", options->quiet, "Print no findings; the exit status tells");
+  command
+      ->add_option("--color", options->color,
+                   "Whether severities are coloured: auto, always or never; auto, for terminals "
+                   "only, without it")
+      ->check(CLI::IsMember({"auto", "always", "never"}).description(""));
+  command->add_option("--format", options->format, "text or json; text without it")
+      ->check(CLI::IsMember({"text", "json"}).description(""));
+  command->footer(
+      "A finding is a line file:line: severity: key: what happened, what the printer gets\n"
+      "instead, what to do. An error keeps the definition from loading or a query from\n"
+      "answering; a warning is something written that has no effect, or a surprising one;\n"
+      "a note is a default that is used.\n"
+      "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file cannot be read\n"
+      "Example: tavrin check printer.ini");
+  command->callback([options, status] { *status = CheckFiles(*options); });
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,139 @@
+#include <map>
+#include <string>
+#include <vector>
+
+#include "check/KeyFacts.h"
+#include "check/Rules.h"
+#include "util/TextUtilities.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+constexpr char kSlotCount[] = "PrinterInkSlotNum";
+
+struct Table {
+  const char* countKey;
+  const char* entry;  ///< what the keys of its entries begin with
+  const char* slotKey;
+  const InkTable& entries;
+};
+
+/// The key beside that of a code.
+std::string NameKeyOf(const WatchedRead& code) {
+  return code.key.substr(0, code.key.size() - 4) + "Name";
+}
+
+/// The reads of the codes of a table, in the order of the entries.
+std::vector<const WatchedRead*> CodesOf(const Reading& reading, const Table& table) {
+  std::vector<const WatchedRead*> codes;
+  for (const WatchedRead& read : reading.reads) {
+    std::int32_t number = 0;
+    const std::string shape = reading.KnownKeyOf(read.key, &number)->Shape();
+    if (shape == std::string(table.entry) + "#Code") codes.push_back(&read);
+  }
+  return codes;
+}
+
+void CheckCount(const Check& check, const char* key) {
+  const WatchedRead* count = check.reading.FindNumber(key);
+  if (count == nullptr || count->number >= 1.0) return;
+  check.Warn(key, "a count below 1 counts as missing",
+             FactsOf(key).Outcome(*check.reading.config, 0), "write 1 or more, or remove the line");
+}
+
+/// What is amiss with half an entry is said of the other half.
+void CheckMissingEntries(const Check& check, const Table& table) {
+  const WatchedRead* count = check.reading.FindNumber(table.countKey);
+  std::int32_t present = 0;
+  for (const WatchedRead* code : CodesOf(check.reading, table)) {
+    if (code->found || check.reading.lines.Find(NameKeyOf(*code)) != nullptr) ++present;
+  }
+  if (count == nullptr || count->number < 1.0 || count->number <= present) return;
+  check.Warn(table.countKey, "fewer entries than it counts are there",
+             "the printer gets " + std::to_string(table.entries.size()) + " of them",
+             "write the missing entries or lower it");
+}
+
+void CheckCodes(const Check& check, const Table& table) {
+  std::map<double, std::string> byCode;
+  std::map<std::string, std::string> byLastDigits;
+  for (const WatchedRead* code : CodesOf(check.reading, table)) {
+    const WatchedRead* name = check.reading.Find(NameKeyOf(*code));
+    if (!code->converted || name == nullptr || !name->found) continue;  // no entry came of it
+    std::string digits;
+    FormatLastThreeDigits(static_cast<std::int32_t>(code->number), &digits);
+    const auto [same, isNewCode] = byCode.emplace(code->number, code->key);
+    const auto [similar, isNew] = byLastDigits.emplace(digits, code->key);
+    if (isNew) continue;
+    check.Warn(
+        code->key,
+        isNewCode ? "the code ends in the same three digits as " + similar->second
+                  : "the code is that of " + same->second,
+        isNewCode ? "ink ids do not tell the two apart" : "slots find the first of the two alone",
+        "give it a code of its own");
+  }
+}
+
+/// Of a slot that is not valid, the code that its table lacks.
+void CheckSlotCodes(const Check& check, const Table& table) {
+  for (const auto& slot : check.reading.config->InkSlots) {
+    const std::string number = std::to_string(slot->GetSlotNumber());
+    const WatchedRead* read = check.reading.FindNumber(table.slotKey + number);
+    const auto code = static_cast<std::int32_t>(read->number);
+    if (slot->IsValid() || table.entries.Find(code) != nullptr) continue;
+    check.Warn(read->key, Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
+               "slot " + number + " holds no known ink", "name a code of the table");
+  }
+}
+
+void CheckBuiltInSlots(const Check& check) {
+  std::string invalid;
+  for (const auto& slot : check.reading.config->InkSlots) {
+    if (!slot->IsValid()) invalid += ' ' + std::to_string(slot->GetSlotNumber());
+  }
+  if (invalid.empty()) return;
+  check.Warn(kSlotCount, "the tables lack codes that the built-in slots name",
+             "these slots hold no known ink:" + invalid, "write slots for the tables");
+}
+
+/// Whether the last of the slots that are counted could be read, which is when none stopped it.
+bool HasSlotsOfItsOwn(const Reading& reading) {
+  const WatchedRead* count = reading.FindNumber(kSlotCount);
+  if (count == nullptr || count->number < 1.0) return false;
+  const auto last = static_cast<std::int32_t>(count->number);
+  return reading.FindNumber(Numbered("InkTypeCodeInkSlot#", last)) != nullptr;
+}
+
+void CheckCategories(const Check& check) {
+  std::string empty;
+  const auto& categories = check.reading.config->InkCategories;
+  for (std::size_t i = 0; i < categories.size(); ++i) {
+    if (!categories[i]->slots.empty()) continue;
+    empty += (empty.empty() ? "" : " and ") + std::to_string(i) + ' ' + Quoted(categories[i]->name);
+  }
+  if (empty.empty()) return;
+  check.Add(Severity::Error, kSlotCount, "no slot is in ink category " + empty,
+            "the query for its slots fails", "give a slot an ink of that category");
+}
+
+}  // namespace
+
+void CheckInks(const Check& check) {
+  const Table tables[] = {
+      {"NumOfColor", "Color", "ColorCodeInkSlot", check.reading.config->Colors},
+      {"NumOfInkType", "InkType", "InkTypeCodeInkSlot", check.reading.config->InkTypes},
+  };
+  const bool hasSlots = HasSlotsOfItsOwn(check.reading);
+  for (const Table& table : tables) {
+    CheckCount(check, table.countKey);
+    CheckMissingEntries(check, table);
+    CheckCodes(check, table);
+    if (hasSlots) CheckSlotCodes(check, table);
+  }
+  CheckCount(check, kSlotCount);
+  if (!hasSlots) CheckBuiltInSlots(check);
+  CheckCategories(check);
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,130 @@
+#include <algorithm>
+#include <numeric>
+#include <set>
+
+#include "check/KeyFacts.h"
+#include "check/Rules.h"
+#include "definition/ValueConversion.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+constexpr char kNoEffect[] = "the line has no effect";
+
+/// How many letters have to be put in, taken out or replaced to make one text of the other.
+std::size_t SpellingDistance(const std::string& a, const std::string& b) {
+  std::vector<std::size_t> row(b.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (const char c : a) {
+    std::size_t diagonal = row[0]++;
+    for (std::size_t j = 0; j < b.size(); ++j) {
+      const std::size_t replaced = diagonal + (c == b[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+    }
+  }
+  return row.back();
+}
+
+/// The known key whose spelling is nearest, with the number that name has; empty when none is near.
+std::string NearestKey(const Reading& reading, const std::string& name) {
+  std::int32_t number = 0;
+  const std::size_t digits = name.find_first_of("0123456789");
+  const bool hasNumber = digits != std::string::npos && ParseInt(name.substr(digits), &number);
+  std::string nearest;
+  std::size_t limit = name.size() / 4 + 2;
+  for (const KnownKey& known : reading.knownKeys) {
+    if (known.digits != 0 && !hasNumber) continue;
+    const std::string candidate = known.WithNumber(number);
+    const std::size_t distance = SpellingDistance(Folded(name), Folded(candidate));
+    if (distance >= limit) continue;
+    nearest = candidate;
+    limit = distance;
+  }
+  return nearest;
+}
+
+/// Whether keys of the number are asked for through the governor, or would be if no earlier one had
+/// stopped the reading; what is amiss is then said of that one.
+bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32_t number) {
+  const WatchedRead* count = reading.FindNumber(governor);
+  if (governor == "PrinterInkSlotNum")
+    return count != nullptr && number >= 1 && number <= count->number;
+  return std::any_of(reading.reads.begin(), reading.reads.end(), [&](const WatchedRead& read) {
+    std::int32_t asked = 0;
+    const char* asking = FactsOf(reading.KnownKeyOf(read.key, &asked)->Shape()).governor;
+    return asking != nullptr && asking == governor && asked == number;
+  });
+}
+
+void CheckUnreadKey(const Check& check, const KeyLine& line) {
+  std::int32_t number = 0;
+  const KnownKey* known = check.reading.KnownKeyOf(line.name, &number);
+  if (known == nullptr) {
+    const std::string nearest = NearestKey(check.reading, line.name);
+    check.Add(line.number, Severity::Warning, line.name,
+              line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
+              kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
+    return;
+  }
+  const char* governor = FactsOf(known->Shape()).governor;
+  if (governor == nullptr || IsCalledFor(check.reading, governor, number)) return;
+  // The thicknesses of other settings are what a setting is picked from.
+  const bool isChoice = governor == std::string("CuttingMarginSetting");
+  check.Add(line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
+            Numbered(std::string(governor) + " does not ask for number #", number), kNoEffect,
+            std::string("change ") + governor + " or remove the line");
+}
+
+void CheckLine(const Check& check, const KeyLine& line) {
+  if (!check.reading.Confirms(line)) return;
+  const auto warn = [&](const std::string& what, const std::string& remedy) {
+    check.Add(line.number, Severity::Warning, line.name, what, kNoEffect, remedy);
+  };
+  const KeyLine* counting = check.reading.lines.Find(line.name);
+  const std::string header = std::to_string(check.reading.lines.HeaderLine());
+  if (line.place == KeyLine::Place::Outside) {
+    warn("this key is outside section [printer]", "move it into that section");
+  } else if (line.place == KeyLine::Place::LaterSection) {
+    warn("only the first section [printer] is read", "move it to the section in line " + header);
+  } else if (counting->number != line.number) {
+    warn("only the first line of a key counts",
+         "remove it or line " + std::to_string(counting->number));
+  } else if (check.reading.Find(line.name) == nullptr) {
+    CheckUnreadKey(check, line);
+  }
+}
+
+void CheckVersion(const Check& check) {
+  const LineIndex& lines = check.reading.lines;
+  check.Add(Severity::Error, "Version",
+            lines.HeaderLine() == 0            ? "there is no section [printer]"
+            : lines.Find("Version") != nullptr ? "this key has no value"
+                                               : "this key is missing",
+            "the definition does not load", "write Version=... in section [printer]");
+}
+
+}  // namespace
+
+bool CheckMark(const Check& check) {
+  std::set<std::string> indexed;
+  for (const KeyLine& line : check.reading.lines.Keys()) {
+    if (line.place == KeyLine::Place::Section) indexed.insert(Folded(line.name));
+  }
+  // Where the mark is known, or stands before another line, the library sees the same keys.
+  const bool isSeen = check.reading.listedKeys.size() == indexed.size();
+  if (!check.reading.lines.HasMark() || isSeen) return false;
+  check.Add(1, Severity::Error, "[printer]", "a byte order mark before the section hides it",
+            check.reading.loads ? "its keys are not read" : "the definition does not load",
+            "save the file without a mark");
+  return true;
+}
+
+void CheckLines(const Check& check) {
+  if (!check.reading.loads) CheckVersion(check);
+  for (const KeyLine& line : check.reading.lines.Keys())
+    CheckLine(check, line);
+}
+
+}  // namespace tavrin::tool

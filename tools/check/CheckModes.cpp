@@ -1,0 +1,52 @@
+#include <algorithm>
+#include <set>
+
+#include "check/Rules.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+constexpr char kNoSuchMode[] = "the printer has no mode #";
+
+bool HasMode(const Check& check, std::int32_t number) {
+  const auto& modes = check.reading.config->Modes;
+  return std::any_of(modes.begin(), modes.end(),
+                     [number](const auto& mode) { return mode->Number == number; });
+}
+
+/// The number of the default mode counts for nothing while there are no modes and no such key.
+void CheckDefaultMode(const Check& check) {
+  const std::int32_t number = check.reading.config->DefaultMode;
+  const bool isWritten = check.reading.lines.Find("DefaultMode") != nullptr;
+  if ((check.reading.config->Modes.empty() && !isWritten) || HasMode(check, number)) return;
+  check.Add(check.reading.LineOf(isWritten ? "DefaultMode" : "Mode"), Severity::Warning,
+            "DefaultMode", Numbered(kNoSuchMode, number),
+            "the default is a mode that no host finds", "name one of the modes");
+}
+
+}  // namespace
+
+void CheckModes(const Check& check) {
+  CheckDefaultMode(check);
+  for (const std::int32_t number : check.reading.limitationModes) {
+    if (HasMode(check, number)) continue;
+    check.Warn("LimitationMode", Numbered(kNoSuchMode, number), "the number has no effect",
+               "name one of the modes");
+  }
+  std::set<std::int32_t> seen;
+  for (const std::int32_t number : check.reading.modes) {
+    if (seen.insert(number).second) continue;
+    check.Warn("Mode", Numbered("mode # is listed again", number), "the printer gets it once more",
+               "list each mode once");
+  }
+  for (const auto& mode : check.reading.config->Modes) {
+    if (mode->SliceSize > 0 || seen.erase(mode->Number) == 0) continue;
+    check.Warn(Numbered("Mode#SliceSize", mode->Number),
+               mode->SliceSize == 0 ? "the slice is cut to whole um, which leaves 0"
+                                    : "the slice is negative",
+               "the number of layers makes no sense", "write 0.001 (mm) or more");
+  }
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,91 @@
+#include "check/Reading.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "Failure.h"
+#include "TemporaryFile.h"
+#include "check/KeyFacts.h"
+#include "definition/PrintModes.h"
+#include "definition/PrinterKeys.h"
+#include "definition/TextConversion.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+/// The reading code reads files alone.
+void WriteCopy(const Bytes& plain, TemporaryFile* copy) {
+  if (copy->Stream() == nullptr ||
+      std::fwrite(plain.data(), 1, plain.size(), copy->Stream()) != plain.size() ||
+      !copy->Close()) {
+    throw Failure(std::filesystem::temp_directory_path().string(), "takes no temporary file",
+                  "check its permissions and free space");
+  }
+}
+
+/// Whether the read got what the line says. Only ASCII is the same for both.
+bool IsReadOf(const WatchedRead& read, const std::string& value) {
+  if (!read.found) return value.empty();
+  return std::equal(read.text.begin(), read.text.begin() + std::min(read.text.size(), value.size()),
+                    value.begin(), [](wchar_t c, char d) {
+                      return c == static_cast<wchar_t>(d) || static_cast<unsigned char>(d) >= 0x80;
+                    });
+}
+
+}  // namespace
+
+Reading::Reading(const Bytes& plain) : lines(plain), knownKeys(ListKnownKeys()) {
+  TemporaryFile copy(std::filesystem::temp_directory_path() / "definition.ini");
+  WriteCopy(plain, &copy);
+  WatchedIni ini(copy.Path().wstring());
+  loads = config->ParseOpened(ini);
+  if (!loads) {
+    // Nothing behind the version was read, and its keys shall not all look unknown.
+    config->Version = "?";
+    config->ParseOpened(ini);
+  }
+  for (const WatchedRead& read : ini.Reads()) {
+    if (byKey.emplace(Folded(read.key), reads.size()).second) reads.push_back(read);
+  }
+  for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection)))
+    listedKeys.insert(Folded(NarrowCopy(key)));
+  ReadModeList(ini, &modes);
+  ReadLimitationModeList(ini, &limitationModes);
+}
+
+const WatchedRead* Reading::Find(const std::string& key) const {
+  const auto found = byKey.find(Folded(key));
+  return found == byKey.end() ? nullptr : &reads[found->second];
+}
+
+const WatchedRead* Reading::FindNumber(const std::string& key) const {
+  const WatchedRead* read = Find(key);
+  return read != nullptr && read->converted ? read : nullptr;
+}
+
+const KnownKey* Reading::KnownKeyOf(const std::string& name, std::int32_t* number) const {
+  const auto found = std::find_if(knownKeys.begin(), knownKeys.end(), [&](const KnownKey& known) {
+    return known.Matches(name, number);
+  });
+  return found == knownKeys.end() ? nullptr : &*found;
+}
+
+std::size_t Reading::LineOf(const std::string& key) const {
+  const KeyLine* line = lines.Find(key);
+  if (line != nullptr && Confirms(*line)) return line->number;
+  std::int32_t number = 0;
+  const KnownKey* known = KnownKeyOf(key, &number);
+  const char* governor = known == nullptr ? nullptr : FactsOf(known->Shape()).governor;
+  return governor != nullptr ? LineOf(governor) : std::max<std::size_t>(lines.HeaderLine(), 1);
+}
+
+bool Reading::Confirms(const KeyLine& line) const {
+  const bool isListed = listedKeys.count(Folded(line.name)) != 0;
+  const KeyLine* counting = lines.Find(line.name);
+  if (counting == nullptr) return !isListed;
+  const WatchedRead* read = Find(line.name);
+  return isListed && (read == nullptr || IsReadOf(*read, counting->value));
+}
+
+}  // namespace tavrin::tool

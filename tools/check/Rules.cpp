@@ -1,0 +1,46 @@
+#include "check/Rules.h"
+
+#include <algorithm>
+
+namespace tavrin::tool {
+
+void Check::Add(std::size_t line, Severity severity, const std::string& key,
+                const std::string& what, const std::string& effect,
+                const std::string& remedy) const {
+  findings->push_back({line, severity, key, what, effect, remedy});
+}
+
+void Check::Add(Severity severity, const std::string& key, const std::string& what,
+                const std::string& effect, const std::string& remedy) const {
+  Add(reading.LineOf(key), severity, key, what, effect, remedy);
+}
+
+void Check::Warn(const std::string& key, const std::string& what, const std::string& effect,
+                 const std::string& remedy) const {
+  Add(Severity::Warning, key, what, effect, remedy);
+}
+
+std::string Quoted(const std::string& text) {
+  constexpr std::size_t kLongest = 40;
+  return '"' + (text.size() > kLongest ? text.substr(0, kLongest) + "..." : text) + '"';
+}
+
+std::string Numbered(const std::string& text, std::int32_t number) {
+  std::string numbered;
+  for (const char c : text)
+    numbered += c == '#' ? std::to_string(number) : std::string(1, c);
+  return numbered;
+}
+
+Findings FindAll(const Reading& reading) {
+  Findings findings;
+  const Check check{reading, &findings};
+  if (CheckMark(check)) return findings;
+  for (const auto rules : {CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks})
+    rules(check);
+  std::stable_sort(findings.begin(), findings.end(),
+                   [](const Finding& a, const Finding& b) { return a.line < b.line; });
+  return findings;
+}
+
+}  // namespace tavrin::tool

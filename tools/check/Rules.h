@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include "check/Finding.h"
+#include "check/Reading.h"
+
+namespace tavrin::tool {
+
+/// What the rules look at, and where their findings go.
+struct Check {
+  /// Adds a finding on a line, or on the line of the key.
+  void Add(std::size_t line, Severity severity, const std::string& key, const std::string& what,
+           const std::string& effect, const std::string& remedy) const;
+  void Add(Severity severity, const std::string& key, const std::string& what,
+           const std::string& effect, const std::string& remedy) const;
+  /// The same for warnings on the line of the key.
+  void Warn(const std::string& key, const std::string& what, const std::string& effect,
+            const std::string& remedy) const;
+
+  const Reading& reading;
+  Findings* findings;
+};
+
+/// A text of the file in quotes, made fit for a line of output: cut when it is long, and without
+/// control characters.
+std::string Quoted(const std::string& text);
+/// The text with the number in place of each '#'.
+std::string Numbered(const std::string& text, std::int32_t number);
+
+/// All that the rules find, in the order of the lines.
+Findings FindAll(const Reading& reading);
+
+// Each adds what one group of rules finds.
+
+/// A mark at the start of the file.
+///
+/// @return whether it hides the section; there is then no sense in the other rules.
+bool CheckMark(const Check& check);
+/// Sections, and lines that nothing reads.
+void CheckLines(const Check& check);
+/// Each read by itself: whether it found a value, and what came of it.
+void CheckValues(const Check& check);
+/// Identity and switches.
+void CheckPrinter(const Check& check);
+void CheckModes(const Check& check);
+/// Colours, ink types, slots and categories.
+void CheckInks(const Check& check);
+
+}  // namespace tavrin::tool

@@ -1,8 +1,0 @@
-#include "StandardOutput.h"
-
-namespace tavrin::tool {
-
-void MakeStandardOutputBinary() {
-}
-
-}  // namespace tavrin::tool
