@@ -186,7 +186,9 @@ expect_same(compact.ini compact.plain)
 file(GLOB leftovers ${WORK}/*.tmp ${WORK}/*/*.tmp ${WORK}/nowhere)
 check("left behind: ${leftovers}" NOT leftovers)
 
-foreach(command encipher decipher show template)
+include(${CMAKE_CURRENT_LIST_DIR}/CheckTest.cmake)
+
+foreach(command check encipher decipher show template)
   succeed(${command} --help)
   check("${command} --help has no example" output MATCHES "\nExample: tavrin ${command} ")
 endforeach()

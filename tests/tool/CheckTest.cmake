@@ -1,0 +1,60 @@
+# The part of ToolTest.cmake on tavrin check: each definition of CASES has what is found in it beside
+# it, NAME.expected to NAME.ini. Those named note-* show notes, too. Wine has expectations of its own
+# where its encoding (the code page 1252) or its reading of byte order marks differs.
+set(CASES ${PROJECT}/tests/data/check)
+file(COPY ${CASES}/ DESTINATION ${WORK})
+set(ENV{LC_ALL} C.UTF-8)
+
+function(expect_findings status threshold)
+  set(expected "")
+  foreach(definition IN LISTS ARGN)
+    string(REGEX REPLACE "ini$" "expected" file ${definition})
+    string(REGEX REPLACE "ini$" "wine.expected" wine_file ${definition})
+    if(TOOL MATCHES "wine-run" AND EXISTS ${CASES}/${wine_file})
+      set(file ${wine_file})
+    endif()
+    file(READ ${CASES}/${file} findings)
+    string(APPEND expected "${findings}")
+  endforeach()
+  run(check --threshold=${threshold} ${ARGN})
+  check("findings; expected: ${expected}" output STREQUAL expected AND result EQUAL ${status})
+endfunction()
+
+file(GLOB definitions RELATIVE ${CASES} ${CASES}/*.ini)
+set(notes ${definitions})
+list(FILTER definitions EXCLUDE REGEX "^note-")
+list(FILTER notes INCLUDE REGEX "^note-")
+check("no cases" definitions AND notes)
+expect_findings(2 warning ${definitions})
+expect_findings(0 note ${notes})
+
+succeed(check full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
+check("the examples are not clean" NOT output)
+
+succeed(encipher white-off.ini white-off.dat)
+run(check --format=json white-off.dat)
+string(JSON json ERROR_VARIABLE error GET "${output}" 0)
+foreach(member file:white-off.dat line:3 severity:warning key:White_White)
+  string(REPLACE ":" ";" member ${member})
+  list(GET member 0 name)
+  list(GET member 1 expected)
+  string(JSON actual ERROR_VARIABLE error GET "${json}" ${name})
+  check("JSON member ${name}" actual STREQUAL expected AND result EQUAL 1)
+endforeach()
+
+succeed(check --threshold=error white-off.ini)
+check("a warning below the threshold" NOT output)
+run(check --quiet white-off.ini)
+check("--quiet" result EQUAL 1 AND NOT output)
+string(ASCII 27 escape)
+run(check --color=always white-off.ini)
+check("--color=always" output MATCHES ":3: ${escape}\\[33mwarning${escape}\\[0m: White_White: ")
+
+refuse(3 "missing: does not exist" check missing white-off.ini)
+check("a file behind one that cannot be read" output MATCHES "^white-off.ini:3: warning: ")
+refuse(2 "threshold" check --threshold=fatal white-off.ini)
+if(NOT TOOL MATCHES "wine-run")  # which has an empty standard input
+  execute_process(COMMAND ${TOOL} check - WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/white-off.dat
+    OUTPUT_VARIABLE output RESULT_VARIABLE result)
+  check("standard input" output MATCHES "^-:3: warning: " AND result EQUAL 1)
+endif()
