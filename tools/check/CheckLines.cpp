@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <numeric>
-#include <set>
 
 #include "check/KeyFacts.h"
 #include "check/Rules.h"
@@ -108,12 +107,12 @@ void CheckVersion(const Check& check) {
 }  // namespace
 
 bool CheckMark(const Check& check) {
-  std::set<std::string> indexed;
-  for (const KeyLine& line : check.reading.lines.Keys()) {
-    if (line.place == KeyLine::Place::Section) indexed.insert(Folded(line.name));
-  }
-  // Where the mark is known, or stands before another line, the library sees the same keys.
-  const bool isSeen = check.reading.listedKeys.size() == indexed.size();
+  const auto& keys = check.reading.lines.Keys();
+  // Where the mark is known, or stands before another line, the library sees the section.
+  const bool isSeen = std::all_of(keys.begin(), keys.end(), [&](const KeyLine& line) {
+    return line.place != KeyLine::Place::Section || !line.hasEquals ||
+           check.reading.listedKeys.count(Folded(line.name)) != 0;
+  });
   if (!check.reading.lines.HasMark() || isSeen) return false;
   check.Add(1, Severity::Error, "[printer]", "a byte order mark before the section hides it",
             check.reading.loads ? "its keys are not read" : "the definition does not load",

@@ -29,7 +29,8 @@ bool IsReadOf(const WatchedRead& read, const std::string& value) {
   if (!read.found) return value.empty();
   return std::equal(read.text.begin(), read.text.begin() + std::min(read.text.size(), value.size()),
                     value.begin(), [](wchar_t c, char d) {
-                      return c == static_cast<wchar_t>(d) || static_cast<unsigned char>(d) >= 0x80;
+                      return c == static_cast<wchar_t>(d) || d == '?' ||
+                             static_cast<unsigned char>(d) >= 0x80;
                     });
 }
 
@@ -81,8 +82,10 @@ std::size_t Reading::LineOf(const std::string& key) const {
 }
 
 bool Reading::Confirms(const KeyLine& line) const {
-  const bool isListed = listedKeys.count(Folded(line.name)) != 0;
   const KeyLine* counting = lines.Find(line.name);
+  // Platforms differ in whether they list a line without a value.
+  const bool isListed =
+      listedKeys.count(Folded(line.name)) != 0 || (counting != nullptr && !counting->hasEquals);
   if (counting == nullptr) return !isListed;
   const WatchedRead* read = Find(line.name);
   return isListed && (read == nullptr || IsReadOf(*read, counting->value));
