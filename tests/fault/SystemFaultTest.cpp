@@ -1,0 +1,227 @@
+#include "fault/SystemFaultTest.h"
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tavrin::test {
+namespace {
+
+/// A failing of the system that ends with the object.
+using Failing = std::shared_ptr<void>;
+
+Failing Until(std::function<void()> undo) {
+  return {nullptr, [undo = std::move(undo)](void*) { undo(); }};
+}
+
+Failing Limit(__rlimit_resource resource, rlim_t value) {
+  rlimit previous{};
+  EXPECT_EQ(getrlimit(resource, &previous), 0);
+  const rlimit lowered{value, previous.rlim_max};
+  EXPECT_EQ(setrlimit(resource, &lowered), 0);
+  return Until([=] { setrlimit(resource, &previous); });
+}
+
+/// No file grows beyond size, as where the file system is full.
+Failing FilesEndAt(rlim_t size) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  return Limit(RLIMIT_FSIZE, size);
+}
+
+Failing NoDescriptorsLeft() {
+  const int lowestFree = dup(STDIN_FILENO);
+  close(lowestFree);
+  return Limit(RLIMIT_NOFILE, static_cast<rlim_t>(lowestFree));
+}
+
+/// Takes the rights to path down to mode. Permission bits stop everyone but root, who acts as
+/// somebody else meanwhile.
+Failing Rights(const std::string& path, mode_t mode) {
+  constexpr uid_t kNobody = 65534;
+  struct stat previous {};
+  EXPECT_EQ(stat(path.c_str(), &previous), 0);
+  EXPECT_EQ(chmod(path.c_str(), mode), 0);
+  const bool isRoot = geteuid() == 0;
+  EXPECT_EQ(isRoot ? seteuid(kNobody) : 0, 0);
+  return Until([=] {
+    EXPECT_EQ(isRoot ? seteuid(0) : 0, 0);
+    chmod(path.c_str(), previous.st_mode & 07777);
+  });
+}
+
+Failing TemporaryDirectory(const std::string& path) {
+  const std::string previous = std::getenv("TMPDIR");
+  setenv("TMPDIR", path.c_str(), 1);
+  return Until([=] { setenv("TMPDIR", previous.c_str(), 1); });
+}
+
+/// path, made length characters long by way of "the same directory".
+std::string Lengthened(const std::string& path, std::size_t length) {
+  const std::size_t slash = path.rfind('/') + 1;
+  std::string filler;
+  while (path.size() + filler.size() + 2 <= length)
+    filler += "./";
+  if (path.size() + filler.size() < length) filler.insert(0, "/");
+  return path.substr(0, slash) + filler + path.substr(slash);
+}
+
+constexpr char kFullDevice[] = "/dev/full";
+
+class SystemFault : public SystemFaultTest {
+ protected:
+  /// Where the plain copy of the definition goes.
+  std::string PlainCopy() const {
+    return temporary + "/" + std::filesystem::read_symlink("/proc/self/exe").stem().string() +
+           "_printer.bin";
+  }
+
+  /// Takes the place of the plain copy by way of place, and leaves it free again.
+  Failing AtThePlainCopy(const std::function<void(const std::string&)>& place) const {
+    place(PlainCopy());
+    return Until([path = PlainCopy()] { std::filesystem::remove_all(path); });
+  }
+
+  const std::string precious = folder.Write("precious", "precious");
+};
+
+TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
+  using std::filesystem::create_directories;
+  using std::filesystem::create_symlink;
+  const struct {
+    const char* name;
+    std::function<Failing()> begin;
+    bool loads;
+    std::string path = {};  // instead of the definition
+  } situations[] = {
+      {"missing temporary directory", [&] { return TemporaryDirectory(temporary + "/none"); },
+       false},
+      {"a file as temporary directory", [&] { return TemporaryDirectory(precious); }, false},
+      {"temporary directory that cannot be written to", [&] { return Rights(temporary, 0555); },
+       false},
+      {"full file system", [] { return FilesEndAt(0); }, false},
+      {"no descriptors left", [] { return NoDescriptorsLeft(); }, false},
+      {"unreadable definition", [&] { return Rights(definition, 0); }, false},
+      {"unsearchable directory", [&] { return Rights(folder.PathOf(""), 0); }, false},
+      {"a file as directory", [] { return nullptr; }, false, precious + "/printer.dat"},
+      {"the longest path", [] { return nullptr; }, true, Lengthened(definition, 4095)},
+      {"a path that is too long", [] { return nullptr; }, false, Lengthened(definition, 4096)},
+      {"directory at the plain copy",
+       [&] { return AtThePlainCopy([](auto path) { create_directories(path + "/full"); }); },
+       false},
+      {"link at the plain copy",
+       [&] { return AtThePlainCopy([&](auto path) { create_symlink(precious, path); }); }, true},
+      {"link to nowhere at the plain copy",
+       [&] { return AtThePlainCopy([&](auto path) { create_symlink("nowhere", path); }); }, true},
+      {"link to itself at the plain copy",
+       [&] { return AtThePlainCopy([&](auto path) { create_symlink(path, path); }); }, true},
+  };
+  for (const auto& situation : situations) {
+    SCOPED_TRACE(situation.name);
+    const std::string& path = situation.path.empty() ? definition : situation.path;
+    ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+    SetLastErrorAside();
+    Failing failing = situation.begin();
+    const bool loaded = TavrinInitialize(path.c_str());
+    failing.reset();
+    EXPECT_EQ(loaded, situation.loads);
+    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(loaded ? ErrorInvalidArgument : ErrorFailed));
+    if (loaded) {
+      EXPECT_EQ(AskEverything(), answers);
+      TavrinFinalize();
+    } else {
+      ExpectNoDefinition();
+    }
+    EXPECT_EQ(ReadWhole(precious), "precious");
+    ExpectAllInOrder();
+  }
+}
+
+TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
+  const std::string fresh = folder.PathOf("conditions.dat");
+  const std::string content = ReadWhole(definition);
+  const struct {
+    const char* name;
+    std::function<Failing()> begin;
+    std::string path;
+    bool opens;
+    std::string written = {};  // what the file holds afterwards, if there is one
+  } situations[] = {
+      {"full device", [] { return nullptr; }, kFullDevice, true},
+      {"full file system", [] { return FilesEndAt(0); }, fresh, true},
+      {"file system with room for a part", [] { return FilesEndAt(100); }, fresh, true,
+       content.substr(0, 100)},
+      {"no descriptors left", [] { return NoDescriptorsLeft(); }, fresh, false},
+      {"directory that cannot be written to", [&] { return Rights(folder.PathOf(""), 0555); },
+       fresh, false},
+      {"file that cannot be written to", [&] { return Rights(precious, 0444); }, precious, false,
+       "precious"},
+      {"a file as directory", [] { return nullptr; }, precious + "/conditions.dat", false},
+      {"directory", [] { return nullptr; }, temporary, false},
+      {"the longest path", [] { return nullptr; }, Lengthened(fresh, 4095), true, content},
+      {"a path that is too long", [] { return nullptr; }, Lengthened(fresh, 4096), false},
+  };
+  for (const auto& situation : situations) {
+    SCOPED_TRACE(situation.name);
+    ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+    SetLastErrorAside();
+    Failing failing = situation.begin();
+    const bool opened = TavrinCreateModelingConditionsFile(situation.path.c_str());
+    failing.reset();
+    EXPECT_EQ(opened, situation.opens);
+    const auto code = opened ? ErrorInvalidArgument : ErrorWriteFailed;
+    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(code));
+    EXPECT_EQ(situation.path == kFullDevice ? "" : ReadWhole(situation.path), situation.written);
+    EXPECT_EQ(AskEverything(), answers) << "the definition stays loaded";
+    EXPECT_EQ(std::filesystem::remove(fresh), opened && situation.path != kFullDevice);
+    ExpectAllInOrder();
+  }
+}
+
+TEST_F(SystemFault, AFullFileSystemHoldsNoPlainCopyAfterwards) {
+  // A mount of the process's own, which goes with it whatever happens.
+  if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", "", MS_REC | MS_PRIVATE, nullptr) != 0 ||
+      mount("tmpfs", temporary.c_str(), "tmpfs", 0, "size=4096") != 0) {
+    GTEST_SKIP() << "no file system can be mounted here";
+  }
+  const Failing mounted = Until([&] { EXPECT_EQ(umount(temporary.c_str()), 0); });
+  const std::string filler = folder.Write("temporary/filler", std::string(4096, 'x'));
+  EXPECT_FALSE(TavrinInitialize(definition.c_str()));
+  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed));
+  ExpectNoDefinition();
+  EXPECT_EQ(EntriesOf(temporary), 1);
+
+  ASSERT_TRUE(std::filesystem::remove(filler));
+  ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+  folder.Write("temporary/filler", std::string(4096, 'x'));
+  const std::string conditions = temporary + "/conditions.dat";
+  EXPECT_TRUE(TavrinCreateModelingConditionsFile(conditions.c_str()));
+  EXPECT_EQ(ReadWhole(conditions), "");
+  EXPECT_EQ(AskEverything(), answers);
+}
+
+TEST_F(SystemFault, ATruncatedPlainCopyIsReadAsFarAsItGoes) {
+  SetLastErrorAside();
+  // Whole lines: "[printer]", the version and the model name.
+  Failing failing = FilesEndAt(Definition("ModelName=Mod\xC3\xA8le de table\n").size());
+  ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+  failing.reset();
+  char info[384] = {};
+  EXPECT_TRUE(TavrinGetInfo(info));
+  EXPECT_STREQ(info, "Mod\xC3\xA8le de table");
+  std::uint32_t margin = 0;
+  EXPECT_TRUE(TavrinGetAreaMarginSize(&margin));
+  EXPECT_EQ(margin, 5u) << "a key behind the cut is a missing one";
+  TavrinFinalize();
+  ExpectAllInOrder();
+}
+
+}  // namespace
+}  // namespace tavrin::test

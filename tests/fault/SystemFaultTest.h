@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdlib>
+
+#include "export/ExportTest.h"
+#include "fault/Allocations.h"
+#include "support/Answers.h"
+
+namespace tavrin::test {
+
+inline long EntriesOf(const std::string& folder) {
+  const std::filesystem::directory_iterator entries(folder);
+  return static_cast<long>(std::distance(begin(entries), end(entries)));
+}
+
+/// Tests of the shared library in a system that fails, with a temporary directory of their own that
+/// must be empty whenever no call runs.
+class SystemFaultTest : public ExportTest {
+ protected:
+  void SetUp() override {
+    ExportTest::SetUp();
+    std::filesystem::create_directory(temporary);
+    std::filesystem::permissions(temporary, std::filesystem::perms::all);
+    setenv("TMPDIR", temporary.c_str(), 1);
+    definition = folder.WriteEnciphered("printer.dat", Definition(kLines));
+    // Once before anything is counted: the C and C++ libraries keep what they make first.
+    ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+    answers = AskEverything();
+    TavrinFinalize();
+    descriptors = EntriesOf("/proc/self/fd");
+  }
+  void TearDown() override {
+    setenv("TMPDIR", previousDirectory.c_str(), 1);
+    ExportTest::TearDown();
+  }
+
+  /// Nothing lies about, and what went before does not show in the next use of the library.
+  void ExpectAllInOrder() const {
+    EXPECT_EQ(EntriesOf(temporary), 0);
+    EXPECT_EQ(EntriesOf("/proc/self/fd"), descriptors);
+    ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+    EXPECT_EQ(AskEverything(), answers);
+    TavrinFinalize();
+  }
+
+  /// A query says that no definition is loaded.
+  static void ExpectNoDefinition() {
+    std::uint32_t margin = 77;
+    EXPECT_FALSE(TavrinGetAreaMarginSize(&margin));
+    EXPECT_EQ(margin, 77u);
+    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  }
+
+  // Every kind of key, none with its default, and a name that ASCII lacks.
+  static constexpr char kLines[] =
+      "ModelName=Mod\xC3\xA8le de table\nIPAddress=192.0.2.50\nPrinterSize=1,2,3\nPrintMargin=4\n"
+      "SupportThickness=0.3\nSupportExtend=2\nSupportExtendAngle=2\nDetachLayerSize=4\n"
+      "AntiAliasing=0\nReverse=1\nWhite_White=1\nAutoCleaningEnabled=0\nNCUEnabled=1\n"
+      "HeadBandSize=50\nDefaultMode=7\nCuttingMarginSetting=2\nCuttingMarginThickness2=0.4\n"
+      "Mode=7\nMode7=600,2\nMode7SliceSize=0.04\nMode7ColorThickness=0.5\n"
+      "Mode7LimitedContinuous=3\nLimitationMode=7\n"
+      "NumOfColor=1000\nColor001Code=1\nColor001Name=Cyan of the sea\n"
+      "NumOfInkType=1\nInkType001Code=9\nInkType001Name=A long ink type\n"
+      "PrinterInkSlotNum=1\nColorCodeInkSlot1=1\nInkTypeCodeInkSlot1=9\n";
+
+  const std::string previousDirectory = std::filesystem::temp_directory_path().string();
+  const std::string temporary = folder.PathOf("temporary");
+  std::string definition;
+  std::string answers;
+  long descriptors = 0;
+};
+
+}  // namespace tavrin::test
