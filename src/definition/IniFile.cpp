@@ -1,5 +1,7 @@
 #include "definition/IniFile.h"
 
+#include <new>
+
 #include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
 #include "platform/Files.h"
@@ -12,6 +14,13 @@ namespace {
 // The size in bytes of 261 wide characters on Windows, which the library has always handed over as
 // a number of characters; definition files keep to 260, but up to 521 come back.
 constexpr std::uint32_t kValueCharacters = 522;
+
+/// WideCopy for names: an exhausted memory must not make a key look like a missing one.
+std::wstring WideName(const std::string& narrow) {
+  std::wstring wide;
+  if (!ToWide(narrow, &wide)) throw std::bad_alloc();
+  return wide;
+}
 
 }  // namespace
 
@@ -44,16 +53,18 @@ bool IniFile::ReadString(const std::wstring& section, const std::wstring& key,
 }
 
 bool IniFile::ReadInt(const std::string& section, const std::string& key, std::int32_t* value) {
-  return ReadInt(WideCopy(section), WideCopy(key), value);
+  return ReadInt(WideName(section), WideName(key), value);
 }
 
 bool IniFile::ReadDouble(const std::string& section, const std::string& key, double* value) {
-  return ReadDouble(WideCopy(section), WideCopy(key), value);
+  return ReadDouble(WideName(section), WideName(key), value);
 }
 
 bool IniFile::ReadString(const std::string& section, const std::string& key, std::string* value) {
   std::wstring wide;
-  return ReadString(WideCopy(section), WideCopy(key), &wide) && ToNarrow(wide, value);
+  if (!ReadString(WideName(section), WideName(key), &wide)) return false;
+  if (!ToNarrow(wide, value)) throw std::bad_alloc();
+  return true;
 }
 
 bool IniFile::WriteString(const std::wstring& section, const std::wstring& key,
@@ -63,7 +74,7 @@ bool IniFile::WriteString(const std::wstring& section, const std::wstring& key,
 
 bool IniFile::WriteString(const std::string& section, const std::string& key,
                           const std::string& value) {
-  return WriteString(WideCopy(section), WideCopy(key), WideCopy(value));
+  return WriteString(WideName(section), WideName(key), WideName(value));
 }
 
 bool IniFile::DeleteKey(const std::wstring& section, const std::wstring& key) {
@@ -72,6 +83,10 @@ bool IniFile::DeleteKey(const std::wstring& section, const std::wstring& key) {
 
 std::vector<std::wstring> IniFile::ListKeys(const std::wstring& section) {
   return platform::ProfileReader(path).ListKeys(section.c_str());
+}
+
+std::vector<std::wstring> IniFile::ListKeys(const std::string& section) {
+  return ListKeys(WideName(section));
 }
 
 bool IniFile::ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,

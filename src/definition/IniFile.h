@@ -18,7 +18,8 @@ class ProfileReader;
 /// does not convert. Values are read up to 521 characters; the rest of a longer one is cut.
 ///
 /// Every read looks at the file as it is at that moment. The narrow operations convert their texts
-/// and forward to the wide ones, so overriding those is enough.
+/// and forward to the wide ones, so overriding those is enough. An exhausted memory leaves every
+/// operation as an exception.
 class IniFile {
  public:
   IniFile() = default;
@@ -57,6 +58,7 @@ class IniFile {
   /// The names of the keys in the section. One that is listed need not have a value that
   /// can be read.
   virtual std::vector<std::wstring> ListKeys(const std::wstring& section);
+  virtual std::vector<std::wstring> ListKeys(const std::string& section);
 
   /// The file that every operation addresses.
   std::wstring path;

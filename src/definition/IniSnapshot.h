@@ -16,6 +16,7 @@ class IniSnapshot : public IniFile {
   using IniFile::ReadString;
   bool ReadString(const std::wstring& section, const std::wstring& key,
                   std::wstring* value) override;
+  using IniFile::ListKeys;
   std::vector<std::wstring> ListKeys(const std::wstring& section) override;
 
  private:

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "definition/PrinterKeys.h"
-#include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
 #include "util/TextUtilities.h"
 
@@ -25,7 +24,7 @@ std::vector<std::int32_t> EntryIndices(IniFile& ini, const std::string& prefix,
     std::iota(indices.begin(), indices.end(), 1);
     return indices;
   }
-  for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection))) {
+  for (const std::wstring& key : ini.ListKeys(kPrinterSection)) {
     // Another key's number may slip in here; it finds no entry when it is read.
     if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9') {
       continue;
