@@ -40,7 +40,11 @@ bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t 
 
 bool WriteFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
   if (block == nullptr || n == 0) return false;
-  std::ofstream file(path, std::ios::out | std::ios::trunc | std::ios::binary);
+  // A buffer of the stream's own is allocated once the file is truncated, too late to fail.
+  char buffer[16];
+  std::ofstream file;
+  file.rdbuf()->pubsetbuf(buffer, sizeof buffer);
+  file.open(path, std::ios::out | std::ios::trunc | std::ios::binary);
   if (!file.is_open()) return false;
   file.write(reinterpret_cast<const char*>(block), n);
   return true;

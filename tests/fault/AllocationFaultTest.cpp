@@ -56,5 +56,34 @@ TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothing) {
       });
 }
 
+TEST_F(AllocationFault, AConditionsFileIsWrittenWholeOrNotTouched) {
+  const std::string older = folder.Write("older.dat", "older");
+  const std::string newer = folder.PathOf("newer.dat");
+  for (const std::string& path : {older, newer}) {
+    ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+    const std::string untouched = path == older ? "older" : "";
+    long before = 0;
+    ForEveryAllocation(
+        [&] {
+          SetLastErrorAside();
+          before = Allocations::Live();
+          return TavrinCreateModelingConditionsFile(path.c_str());
+        },
+        [&](Result result) {
+          EXPECT_EQ(Allocations::Live(), before);
+          EXPECT_NE(result, Result::False);
+          EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+          const bool written = result == Result::True;
+          EXPECT_EQ(ReadWhole(path), written ? ReadWhole(definition) : untouched);
+          EXPECT_EQ(std::filesystem::exists(path), written || path == older);
+          EXPECT_EQ(AskEverything(), answers);
+          if (path == older) folder.Write("older.dat", untouched);
+          if (path == newer) std::filesystem::remove(path);
+        });
+    TavrinFinalize();
+    ExpectAllInOrder();
+  }
+}
+
 }  // namespace
 }  // namespace tavrin::test
