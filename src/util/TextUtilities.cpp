@@ -22,8 +22,8 @@ bool FormatLastThreeDigits(std::int32_t value, std::string* text) {
 
 bool CopyToByteArray(const std::string& text, char** array, std::int32_t* size) {
   if (text.empty() || array == nullptr) return false;
-  *size = static_cast<std::int32_t>(text.size() + 1);
   *array = new char[text.size() + 1]();
+  *size = static_cast<std::int32_t>(text.size() + 1);
   text.copy(*array, text.size());
   return true;
 }

@@ -85,5 +85,30 @@ TEST_F(AllocationFault, AConditionsFileIsWrittenWholeOrNotTouched) {
   }
 }
 
+/// Looks at what get hands out in every case: an array and its count, or neither.
+template <typename Element, typename Get>
+void ExpectBothOrNeither(Get get) {
+  Element* array = nullptr;
+  std::int32_t count = 77;
+  ForEveryAllocation([&] { return get(&array, &count); },
+                     [&](Result result) {
+                       EXPECT_EQ(array != nullptr, result == Result::True);
+                       EXPECT_EQ(count != 77, result == Result::True);
+                       delete[] array;
+                       array = nullptr;
+                       count = 77;
+                     });
+}
+
+TEST_F(AllocationFault, WhatIsNotHandedOutLeavesBothOutputsUntouched) {
+  ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+  InkSlot* slot = nullptr;
+  ASSERT_TRUE(TavrinGetInkSlot(1, &slot));
+  ExpectBothOrNeither<char>([=](auto... out) { return slot->GetInkId(out...); });
+  ExpectBothOrNeither<char>([=](auto... out) { return slot->GetInkName(out...); });
+  ExpectBothOrNeither<std::int32_t>(
+      [](auto... out) { return TavrinGetInkSlotNumConposeInkCategory(0, out...); });
+}
+
 }  // namespace
 }  // namespace tavrin::test
