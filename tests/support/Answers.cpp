@@ -66,8 +66,10 @@ void NoteModes(Record* record) {
   for (std::int32_t index = 0; index <= count; ++index) {
     std::int32_t mode[6] = {};
     bool limited = false;
-    const bool answered = TavrinGetModeConfig(index, mode) & TavrinGetWarpWarning(index, &limited);
-    record->Note(answered, mode[0], mode[1], mode[2], mode[3], mode[4], mode[5], limited);
+    const bool hasMode = TavrinGetModeConfig(index, mode);
+    record->Note(hasMode, mode[0], mode[1], mode[2], mode[3], mode[4], mode[5]);
+    const bool hasWarning = TavrinGetWarpWarning(index, &limited);
+    record->Note(hasWarning, limited);
   }
 }
 
