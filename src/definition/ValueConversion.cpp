@@ -1,17 +1,38 @@
 #include "definition/ValueConversion.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <stdexcept>
+
+#include "definition/TextConversion.h"
 
 namespace tavrin {
 
 namespace {
 
-template <typename Text, typename Value, typename Convert>
-bool Parse(const Text& text, Value* value, Convert convert) {
-  if (text.empty()) return false;
+/// White space as Windows has it. Other runtimes have their own, that of MinGW two kinds.
+bool IsSpace(wchar_t c) {
+  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0xA0 || c == 0x1680 ||
+         (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F ||
+         c == 0x3000;
+}
+
+bool IsAscii(wchar_t c) {
+  return static_cast<char32_t>(c) < 0x80;
+}
+
+/// What a number's characters can be among, at the start of text. Narrow, because the conversions
+/// of the runtimes agree on narrow ASCII.
+std::string NumberText(const std::wstring& text) {
+  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
+  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
+}
+
+template <typename Value, typename Convert>
+bool Parse(const std::wstring& text, Value* value, Convert convert) {
   try {
-    *value = convert(text);
+    *value = convert(NumberText(text));
     return true;
   } catch (const std::invalid_argument&) {
     return false;
@@ -20,32 +41,28 @@ bool Parse(const Text& text, Value* value, Convert convert) {
   }
 }
 
-template <typename Text>
-bool ParseIntOf(const Text& text, std::int32_t* value) {
-  return Parse(text, value, [](const Text& digits) { return std::stoi(digits); });
-}
-
-template <typename Text>
-bool ParseDoubleOf(const Text& text, double* value) {
-  return Parse(text, value, [](const Text& digits) { return std::stod(digits); });
+/// Sign and payload of a NaN differ from runtime to runtime.
+double ToDouble(const std::string& digits) {
+  const double value = std::stod(digits);
+  return std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value;
 }
 
 }  // namespace
 
 bool ParseInt(const std::string& text, std::int32_t* value) {
-  return ParseIntOf(text, value);
+  return ParseInt(WideCopy(text), value);
 }
 
 bool ParseInt(const std::wstring& text, std::int32_t* value) {
-  return ParseIntOf(text, value);
+  return Parse(text, value, [](const std::string& digits) { return std::stoi(digits); });
 }
 
 bool ParseDouble(const std::string& text, double* value) {
-  return ParseDoubleOf(text, value);
+  return ParseDouble(WideCopy(text), value);
 }
 
 bool ParseDouble(const std::wstring& text, double* value) {
-  return ParseDoubleOf(text, value);
+  return Parse(text, value, ToDouble);
 }
 
 std::string IntToString(std::int32_t value) {

@@ -1,8 +1,10 @@
+#include <cstring>
 #include <limits>
 
 #include <gtest/gtest.h>
 
 #include "definition/IntegerConversion.h"
+#include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
 
 namespace tavrin {
@@ -67,6 +69,35 @@ TEST(ValueConversion, DoublesConvertUpToTheFirstOtherCharacter) {
     EXPECT_EQ(ParseDouble(Widen(c.text), &wide), c.converts) << c.text;
     EXPECT_EQ(narrow, c.value) << c.text;
     EXPECT_EQ(wide, c.value) << c.text;
+  }
+}
+
+// What the C runtimes differ in: their white space, the edges of a double's range in wide text, and
+// the bits of a NaN.
+TEST(ValueConversion, NumbersAreTheSameOnEveryPlatform) {
+  for (const wchar_t* text : {L"\u00A042", L" \u2007\u202F42", L"\u300042\u2603"}) {
+    std::int32_t integer = kUntouched;
+    double number = -77.0;
+    EXPECT_TRUE(ParseInt(text, &integer) && ParseDouble(text, &number));
+    EXPECT_EQ(integer, 42);
+    EXPECT_EQ(number, 42.0);
+  }
+  std::int32_t narrow = kUntouched;
+  EXPECT_TRUE(ParseInt(NarrowCopy(L"\u00A042"), &narrow));
+  EXPECT_EQ(narrow, 42);
+  EXPECT_FALSE(ParseInt(std::wstring(L"-\u00A042"), &narrow));
+
+  for (const char* text : {"0x1p-1074", "1.7976931348623158e308"}) {
+    double number = 0.0;
+    double wide = 1.0;
+    EXPECT_TRUE(ParseDouble(text, &number) && ParseDouble(Widen(text), &wide)) << text;
+    EXPECT_EQ(number, wide) << text;
+  }
+  const double expected = std::numeric_limits<double>::quiet_NaN();
+  for (const char* text : {"nan", "-nan", "nan(1)"}) {
+    double number = 0.0;
+    EXPECT_TRUE(ParseDouble(text, &number));
+    EXPECT_EQ(std::memcmp(&number, &expected, sizeof number), 0) << text;
   }
 }
 
