@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 
 #include "util/TextUtilities.h"
 
@@ -245,17 +246,20 @@ void DefinitionGenerator::InkSlots() {
 
 std::string DefinitionGenerator::Encoded() {
   if (!OneIn(6)) return text_;
+  // Two that lie outside Latin-1, two that no narrow text holds, and a blank of Windows.
+  static const std::map<char, std::u16string> kUnits = {{'\200', u"\u20AC"},
+                                                        {'\231', u"\u2122"},
+                                                        {'\327', u"\u2603"},
+                                                        {'\351', u"\U0001F600"},
+                                                        {'\377', u"\u3000"}};
   std::string encoded = "\xFF\xFE";
   for (const char c : text_) {
-    // Euro and trade mark sign lie outside Latin-1; a snowman has no narrow character.
-    const unsigned unit = c == '\x80'   ? 0x20AC
-                          : c == '\x99' ? 0x2122
-                          : c == '\xD7' ? 0x2603
-                          : c == '\xFF' ? 0x3000
-                                        : static_cast<unsigned char>(c);
-    encoded += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+    const auto found = kUnits.find(c);
+    const auto latin = static_cast<char16_t>(static_cast<unsigned char>(c));
+    for (const char16_t unit : found == kUnits.end() ? std::u16string(1, latin) : found->second)
+      encoded += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
   }
-  return encoded;
+  return OneIn(8) ? encoded + "x" : encoded;
 }
 
 }  // namespace tavrin::test

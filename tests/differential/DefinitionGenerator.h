@@ -12,7 +12,7 @@ namespace tavrin::test {
 /// values, spellings, repetitions and lines between them, in Windows-1252 or in UTF-16.
 ///
 /// Left out is what the profile functions of Wine treat otherwise than those of Windows, which the
-/// portable ones follow:
+/// portable ones follow, and what has no answer that is common to all code pages:
 /// - a header with a second ']' (Wine's name runs to the last one) or without any (Wine has no
 ///   header there)
 /// - a UTF-8 or a big-endian UTF-16 mark (Wine decodes what follows)
@@ -20,6 +20,8 @@ namespace tavrin::test {
 ///   (Wine keeps more than 16 bits of a length)
 /// - the five bytes that Windows-1252 leaves open (Windows makes them control characters, while
 ///   glibc's locale of that name has no character for them)
+/// - halves of UTF-16 characters and U+FFFD (in such a text Windows finds no narrow one at all, the
+///   portable conversion puts '?' for what it could not decode)
 class DefinitionGenerator {
  public:
   explicit DefinitionGenerator(std::uint64_t seed) : random_(seed) {}
