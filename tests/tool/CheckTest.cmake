@@ -1,6 +1,6 @@
-# The part of ToolTest.cmake on tavrin check: each definition of CASES has what is found in it beside
-# it, NAME.expected to NAME.ini. Those named note-* show notes, too. Wine has expectations of its own
-# where its encoding (the code page 1252) or its reading of byte order marks differs.
+# The part of ToolTest.cmake on tavrin check: beside each definition of tests/data/check lies what is
+# found in it, NAME.expected to NAME.ini. Those named note-* show notes, too. Wine has expectations of
+# its own where its encoding (the code page 1252) or its reading of byte order marks differs.
 set(CASES ${PROJECT}/tests/data/check)
 file(COPY ${CASES}/ DESTINATION ${WORK})
 set(ENV{LC_ALL} C.UTF-8)
@@ -28,8 +28,9 @@ check("no cases" definitions AND notes)
 expect_findings(2 warning ${definitions})
 expect_findings(0 note ${notes})
 
-succeed(check full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
-check("the examples are not clean" NOT output)
+file(COPY ${PROJECT}/tools/template.ini DESTINATION ${WORK})
+succeed(check template.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
+check("template and examples are not clean" NOT output)
 
 succeed(encipher white-off.ini white-off.dat)
 run(check --format=json white-off.dat)

@@ -1,35 +1,28 @@
 #include "check/FindingsOutput.h"
 
-#include <algorithm>
-
-#include "FilePath.h"
+#include "TextForms.h"
 
 namespace tavrin::tool {
 
 namespace {
 
-constexpr struct {
+struct SeverityStyle {
   const char* name;
   const char* color;
-} kSeverities[] = {{"note", "\x1B[36m"}, {"warning", "\x1B[33m"}, {"error", "\x1B[31m"}};
+};
 
-/// Where paths are wide, their own conversion knows the way from the code page to UTF-8.
-std::string ToUtf8(const std::string& text) {
-  return ToPath(text).u8string();
-}
+constexpr SeverityStyle kSeverities[] = {
+    {"note", "\x1B[36m"}, {"warning", "\x1B[33m"}, {"error", "\x1B[31m"}};
 
 }  // namespace
 
 void PrintFinding(const std::string& file, const Finding& finding, bool inColor,
                   std::ostream& out) {
   const auto& [name, color] = kSeverities[static_cast<std::size_t>(finding.severity)];
-  std::string text =
+  const std::string text =
       finding.key + ": " + finding.what + ", " + finding.effect + ", " + finding.remedy;
-  // Texts of the file must not steer a terminal.
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
   out << file << ':' << finding.line << ": " << (inColor ? color : "") << name
-      << (inColor ? "\x1B[0m" : "") << ": " << text << '\n';
+      << (inColor ? "\x1B[0m" : "") << ": " << Printable(text) << '\n';
 }
 
 nlohmann::ordered_json ToJson(const std::string& file, const Finding& finding) {
