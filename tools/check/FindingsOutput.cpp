@@ -18,10 +18,10 @@ constexpr SeverityStyle kSeverities[] = {
 
 void PrintFinding(const std::string& file, const Finding& finding, bool inColor,
                   std::ostream& out) {
-  const auto& [name, color] = kSeverities[static_cast<std::size_t>(finding.severity)];
+  const SeverityStyle& style = kSeverities[static_cast<std::size_t>(finding.severity)];
   const std::string text =
       finding.key + ": " + finding.what + ", " + finding.effect + ", " + finding.remedy;
-  out << file << ':' << finding.line << ": " << (inColor ? color : "") << name
+  out << file << ':' << finding.line << ": " << (inColor ? style.color : "") << style.name
       << (inColor ? "\x1B[0m" : "") << ": " << Printable(text) << '\n';
 }
 
