@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
 #include <stdexcept>
 
 #include "definition/TextConversion.h"
@@ -29,6 +30,13 @@ std::string NumberText(const std::wstring& text) {
   return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
+/// WideCopy, but that an exhausted memory must not make a number look like none.
+std::wstring Widened(const std::string& text) {
+  std::wstring wide;
+  if (!ToWide(text, &wide)) throw std::bad_alloc();
+  return wide;
+}
+
 template <typename Value, typename Convert>
 bool Parse(const std::wstring& text, Value* value, Convert convert) {
   try {
@@ -50,7 +58,7 @@ double ToDouble(const std::string& digits) {
 }  // namespace
 
 bool ParseInt(const std::string& text, std::int32_t* value) {
-  return ParseInt(WideCopy(text), value);
+  return ParseInt(Widened(text), value);
 }
 
 bool ParseInt(const std::wstring& text, std::int32_t* value) {
@@ -58,7 +66,7 @@ bool ParseInt(const std::wstring& text, std::int32_t* value) {
 }
 
 bool ParseDouble(const std::string& text, double* value) {
-  return ParseDouble(WideCopy(text), value);
+  return ParseDouble(Widened(text), value);
 }
 
 bool ParseDouble(const std::wstring& text, double* value) {

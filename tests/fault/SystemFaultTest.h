@@ -53,12 +53,13 @@ class SystemFaultTest : public ExportTest {
 
   // Every kind of key, none with its default, and a name that ASCII lacks.
   static constexpr char kLines[] =
-      "ModelName=Mod\xC3\xA8le de table\nIPAddress=192.0.2.50\nPrinterSize=1,2,3\nPrintMargin=4\n"
+      "ModelName=Mod\xC3\xA8le de "
+      "table\nIPAddress=192.0.2.50\nPrinterSize=1000.5,2000.5,3000.5\nPrintMargin=4\n"
       "SupportThickness=0.3\nSupportExtend=2\nSupportExtendAngle=2\nDetachLayerSize=4\n"
       "AntiAliasing=0\nReverse=1\nWhite_White=1\nAutoCleaningEnabled=0\nNCUEnabled=1\n"
-      "HeadBandSize=50\nDefaultMode=7\nCuttingMarginSetting=2\nCuttingMarginThickness2=0.4\n"
-      "Mode=7\nMode7=600,2\nMode7SliceSize=0.04\nMode7ColorThickness=0.5\n"
-      "Mode7LimitedContinuous=3\nLimitationMode=7\n"
+      "HeadBandSize=50.25\nDefaultMode=1007\nCuttingMarginSetting=2\nCuttingMarginThickness2=0.4\n"
+      "Mode=1007\nMode1007=600,2\nMode1007SliceSize=0.04\nMode1007ColorThickness=0.5\n"
+      "Mode1007LimitedContinuous=3\nLimitationMode=1007\n"
       "NumOfColor=1000\nColor001Code=1\nColor001Name=Cyan of the sea\n"
       "NumOfInkType=1\nInkType001Code=9\nInkType001Name=A long ink type\n"
       "PrinterInkSlotNum=1\nColorCodeInkSlot1=1\nInkTypeCodeInkSlot1=9\n";

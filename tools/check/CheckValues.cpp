@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -118,9 +119,14 @@ void ValueCheck::CheckField(const std::string& field, bool isInteger) const {
          isInteger ? "write an integer" : "write a number with a full stop before its decimals");
     return;
   }
-  std::size_t end = 0;
-  static_cast<void>(isInteger ? std::stoi(field, &end) : std::stod(field, &end));
-  if (field.find_first_not_of(" \t", end) == std::string::npos) return;
+  char* after = nullptr;
+  if (isInteger) {
+    std::strtol(field.c_str(), &after, 10);
+  } else {
+    std::strtod(field.c_str(), &after);
+  }
+  const auto end = static_cast<std::size_t>(after - field.c_str());
+  if (end == 0 || field.find_first_not_of(" \t", end) == std::string::npos) return;
   const std::string read = Quoted(field.substr(0, end));
   Warn("only " + read + " of " + Quoted(field) + " is read", kRestHasNoEffect,
        "write " + read + " or the number that is meant");

@@ -27,11 +27,10 @@ void WriteCopy(const Bytes& plain, TemporaryFile* copy) {
 /// Whether the read got what the line says. Only ASCII is the same for both.
 bool IsReadOf(const WatchedRead& read, const std::string& value) {
   if (!read.found) return value.empty();
-  return std::equal(read.text.begin(), read.text.begin() + std::min(read.text.size(), value.size()),
-                    value.begin(), [](wchar_t c, char d) {
-                      return c == static_cast<wchar_t>(d) || d == '?' ||
-                             static_cast<unsigned char>(d) >= 0x80;
-                    });
+  const std::wstring text = read.text.substr(0, value.size());
+  return std::equal(text.begin(), text.end(), value.begin(), [](wchar_t c, char d) {
+    return c == static_cast<wchar_t>(d) || d == '?' || static_cast<unsigned char>(d) >= 0x80;
+  });
 }
 
 }  // namespace
