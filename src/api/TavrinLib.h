@@ -82,8 +82,8 @@ enum TavrinErrorCode {
 /// @param path the definition file; null is answered as below.
 /// @return false with #ErrorInvalidArgument when path is null (the loaded definition stays);
 ///         false with #ErrorFailed when the file is missing, empty, unreadable or holds no
-///         "Version", or the plain copy cannot be written to the temporary directory (no
-///         definition is loaded afterwards).
+///         "Version", or no readable copy of it with a "Version" lies in the temporary directory
+///         (no definition is loaded afterwards).
 TAVRIN_API bool TavrinInitialize(const char* path);
 
 /// Releases the loaded printer definition. Harmless when there is none. A host that ends without

@@ -118,7 +118,8 @@ using Category = std::vector<std::uint32_t>;
 /// ends the one before, also where the new definition then fails to load: the ended session
 /// answers every question with ErrorNotInitialized and leaves the definition alone when it goes.
 /// `session = Session(path)` thus changes the definition. Like the exports it is for one thread
-/// at a time. On Windows, sessions of different DLLs in one process do not know of each other.
+/// at a time. Sessions of different DLLs, or of shared libraries built with hidden visibility, do
+/// not know of each other.
 class Session {
  public:
   /// Loads the enciphered printer definition file at path, which is in the encoding that
