@@ -6,6 +6,7 @@
 
 #include "bench/FileFloor.h"
 #include "definition/FileCipher.h"
+#include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
 #include "util/TextUtilities.h"
@@ -15,13 +16,14 @@ namespace tavrin::bench {
 namespace {
 
 /// Notes the keys that pass through.
-class RecordingIni : public IniFile {
+class RecordingIni : public IniSnapshot {
  public:
-  using IniFile::ReadString;
+  using IniSnapshot::IniSnapshot;
+  using IniSnapshot::ReadString;
   bool ReadString(const std::wstring& section, const std::wstring& key,
                   std::wstring* value) override {
     keys.push_back(NarrowCopy(key));
-    return IniFile::ReadString(section, key, value);
+    return IniSnapshot::ReadString(section, key, value);
   }
 
   std::vector<std::string> keys;
@@ -30,8 +32,7 @@ class RecordingIni : public IniFile {
 std::vector<std::string> KeysAskedOf(const std::string& plain) {
   const std::string path = InTemporaryFolder("tavrin-bench.ini");
   WriteBare(path, plain);
-  RecordingIni ini;
-  ini.Open(WideCopy(path));
+  RecordingIni ini{WideCopy(path)};
   PrinterConfig().ParseOpened(ini);
   std::remove(path.c_str());
   return ini.keys;

@@ -1,7 +1,9 @@
 // Initialising, against the same work done by hand with two INI libraries, and against the bare
 // file operations that it cannot do without.
 #include <cstdio>
+#include <fstream>
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -23,15 +25,21 @@ void Initialize(const BenchDefinition& definition) {
   TavrinFinalize();
 }
 
+std::string ReadWithStream(const std::string& path) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
 /// Reads and deciphers the definition, writes the plain copy, lets read ask for the keys from it,
-/// removes it.
+/// removes it: as a host would that knows the standard library.
 template <typename Read>
 void LoadByHand(const BenchDefinition& definition, Read read) {
-  std::string block = ReadBare(definition.Path());
+  std::string block = ReadWithStream(definition.Path());
   DecryptBuffer(reinterpret_cast<unsigned char*>(block.data()),
                 static_cast<std::uint32_t>(block.size()));
   const std::string copy = MakeTemporaryPath(definition.Path());
-  WriteBare(copy, block);
+  std::ofstream(copy, std::ios::binary) << block;
   read(copy);
   std::remove(copy.c_str());
 }
