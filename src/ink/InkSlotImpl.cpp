@@ -4,16 +4,6 @@
 
 namespace tavrin {
 
-bool InkSlotImpl::GetColorCode(std::uint32_t* code) const {
-  *code = ColorCode();
-  return true;
-}
-
-bool InkSlotImpl::GetInkTypeCode(std::uint32_t* code) const {
-  *code = InkTypeCode();
-  return true;
-}
-
 bool InkSlotImpl::GetInkName(char** name, std::int32_t* size) const {
   return CopyToByteArray(InkNameString(), name, size);
 }

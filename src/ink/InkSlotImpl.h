@@ -12,8 +12,6 @@ class InkSlotImpl : public NumberedInkSlot {
               const IdentifiableData& slotInkType)
       : NumberedInkSlot(number), color(&slotColor), inkType(&slotInkType) {}
 
-  bool GetColorCode(std::uint32_t* code) const override;
-  bool GetInkTypeCode(std::uint32_t* code) const override;
   bool GetInkName(char** name, std::int32_t* size) const override;
   bool IsValid() const override;
 

@@ -8,16 +8,6 @@ InvalidInkSlot::InvalidInkSlot(std::uint32_t number)
       placeholderInkType_(new IdentifiableData) {
 }
 
-bool InvalidInkSlot::GetColorCode(std::uint32_t* code) const {
-  *code = ColorCode();
-  return true;
-}
-
-bool InvalidInkSlot::GetInkTypeCode(std::uint32_t* code) const {
-  *code = InkTypeCode();
-  return true;
-}
-
 bool InvalidInkSlot::GetInkName(char** name, std::int32_t* size) const {
   if (name == nullptr) return false;
   *name = nullptr;

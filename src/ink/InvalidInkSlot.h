@@ -11,8 +11,6 @@ class InvalidInkSlot : public NumberedInkSlot {
  public:
   explicit InvalidInkSlot(std::uint32_t number);
 
-  bool GetColorCode(std::uint32_t* code) const override;
-  bool GetInkTypeCode(std::uint32_t* code) const override;
   bool GetInkName(char** name, std::int32_t* size) const override;
   bool IsValid() const override;
 

@@ -5,6 +5,16 @@
 
 namespace tavrin {
 
+bool NumberedInkSlot::GetColorCode(std::uint32_t* code) const {
+  *code = ColorCode();
+  return true;
+}
+
+bool NumberedInkSlot::GetInkTypeCode(std::uint32_t* code) const {
+  *code = InkTypeCode();
+  return true;
+}
+
 bool NumberedInkSlot::GetInkId(char** id, std::int32_t* size) const {
   return CopyToByteArray(InkIdString(), id, size);
 }

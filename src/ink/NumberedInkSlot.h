@@ -11,6 +11,8 @@ class NumberedInkSlot : public InkSlot {
  public:
   explicit NumberedInkSlot(std::uint32_t number) : slotNumber(number) {}
 
+  bool GetColorCode(std::uint32_t* code) const override;
+  bool GetInkTypeCode(std::uint32_t* code) const override;
   bool GetInkId(char** id, std::int32_t* size) const override;
 
   /// The slot's number, from 1.
