@@ -50,11 +50,7 @@ bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32
   const WatchedRead* count = reading.FindNumber(governor);
   if (governor == "PrinterInkSlotNum")
     return count != nullptr && number >= 1 && number <= count->number;
-  return std::any_of(reading.reads.begin(), reading.reads.end(), [&](const WatchedRead& read) {
-    std::int32_t asked = 0;
-    const char* asking = FactsOf(reading.KnownKeyOf(read.key, &asked)->Shape()).governor;
-    return asking != nullptr && asking == governor && asked == number;
-  });
+  return reading.numbersAskedFor.count({governor, number}) != 0;
 }
 
 void CheckUnreadKey(const Check& check, const KeyLine& line) {

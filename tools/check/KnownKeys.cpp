@@ -44,6 +44,7 @@ std::string KnownKey::WithNumber(std::int32_t number) const {
 
 bool KnownKey::Matches(const std::string& name, std::int32_t* number) const {
   *number = 0;
+  if (Folded(name.substr(0, prefix.size())) != Folded(prefix)) return false;
   const bool isNumbered = digits != 0 && name.size() > prefix.size();
   if (isNumbered && !ParseInt(name.substr(prefix.size()), number)) return false;
   return Folded(WithNumber(*number)) == Folded(name);

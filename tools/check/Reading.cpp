@@ -48,6 +48,11 @@ Reading::Reading(const Bytes& plain) : lines(plain), knownKeys(ListKnownKeys()) 
   for (const WatchedRead& read : ini.Reads()) {
     if (byKey.emplace(Folded(read.key), reads.size()).second) reads.push_back(read);
   }
+  for (const WatchedRead& read : reads) {
+    std::int32_t number = 0;
+    const char* governor = FactsOf(KnownKeyOf(read.key, &number)->Shape()).governor;
+    if (governor != nullptr) numbersAskedFor.emplace(governor, number);
+  }
   for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection)))
     listedKeys.insert(Folded(NarrowCopy(key)));
   ReadModeList(ini, &modes);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "FileTransfer.h"
@@ -37,6 +38,7 @@ struct Reading {
   bool loads = false;
   std::vector<WatchedRead> reads;            ///< each key once, in the order asked for
   std::map<std::string, std::size_t> byKey;  ///< by folded name, into reads
+  std::set<std::pair<std::string, std::int32_t>> numbersAskedFor;  ///< with their governor
   std::set<std::string> listedKeys;  ///< those of the section as the library sees it, folded
   std::vector<std::int32_t> modes;   ///< as "Mode" lists them
   std::vector<std::int32_t> limitationModes;
