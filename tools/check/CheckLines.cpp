@@ -72,20 +72,28 @@ void CheckUnreadKey(const Check& check, const KeyLine& line) {
             std::string("change ") + governor + " or remove the line");
 }
 
+/// The line that counts in place of this one; null where this one does. Unlike names with '?' for
+/// other characters can look alike, so of those each counts.
+const KeyLine* EarlierLine(const LineIndex& lines, const KeyLine& line) {
+  const KeyLine* counting = lines.Find(line.name);
+  const bool isEarlier =
+      counting->number != line.number && line.name.find('?') == std::string::npos;
+  return isEarlier ? counting : nullptr;
+}
+
 void CheckLine(const Check& check, const KeyLine& line) {
   if (!check.reading.Confirms(line)) return;
   const auto warn = [&](const std::string& what, const std::string& remedy) {
     check.Add(line.number, Severity::Warning, line.name, what, kNoEffect, remedy);
   };
-  const KeyLine* counting = check.reading.lines.Find(line.name);
   const std::string header = std::to_string(check.reading.lines.HeaderLine());
   if (line.place == KeyLine::Place::Outside) {
     warn("this key is outside section [printer]", "move it into that section");
   } else if (line.place == KeyLine::Place::LaterSection) {
     warn("only the first section [printer] is read", "move it to the section in line " + header);
-  } else if (counting->number != line.number) {
+  } else if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
     warn("only the first line of a key counts",
-         "remove it or line " + std::to_string(counting->number));
+         "remove it or line " + std::to_string(earlier->number));
   } else if (check.reading.Find(line.name) == nullptr) {
     CheckUnreadKey(check, line);
   }
@@ -106,8 +114,7 @@ bool CheckMark(const Check& check) {
   const auto& keys = check.reading.lines.Keys();
   // Where the mark is known, or stands before another line, the library sees the section.
   const bool isSeen = std::all_of(keys.begin(), keys.end(), [&](const KeyLine& line) {
-    return line.place != KeyLine::Place::Section || !line.hasEquals ||
-           check.reading.listedKeys.count(Folded(line.name)) != 0;
+    return line.place != KeyLine::Place::Section || !line.hasEquals || check.reading.Lists(line);
   });
   if (!check.reading.lines.HasMark() || isSeen) return false;
   check.Add(1, Severity::Error, "[printer]", "a byte order mark before the section hides it",

@@ -65,6 +65,10 @@ std::string Folded(std::string_view name) {
   return folded;
 }
 
+bool KeyLine::HasPlainName() const {
+  return PlainPart(name) == name;
+}
+
 LineIndex::LineIndex(const Bytes& plain) {
   const std::string text = TextOf(plain, &hasMark_);
   std::string_view rest = text;

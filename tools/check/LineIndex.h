@@ -22,7 +22,21 @@ struct KeyLine {
   bool hasEquals = false;
   std::string name = {};
   std::string value = {};  ///< without the quotes round it
+
+  /// Whether the name is surely the same for the library: ASCII throughout, without a '?'.
+  bool HasPlainName() const;
 };
+
+/// What the index and the library have alike of a text: its ASCII but for '?', which either puts
+/// for other characters.
+template <typename Text>
+std::string PlainPart(const Text& text) {
+  std::string plain;
+  for (const auto c : text) {
+    if (c > 0 && c < 0x80 && c != '?') plain += static_cast<char>(c);
+  }
+  return plain;
+}
 
 /// Says which line of a plain definition is which key. It knows the outline of the format, but not
 /// what a key means; what it says is held against what the library read.

@@ -24,13 +24,11 @@ void WriteCopy(const Bytes& plain, TemporaryFile* copy) {
   }
 }
 
-/// Whether the read got what the line says. Only ASCII is the same for both.
+/// Whether the read got what the line says, or the start of it.
 bool IsReadOf(const WatchedRead& read, const std::string& value) {
   if (!read.found) return value.empty();
-  const std::wstring text = read.text.substr(0, value.size());
-  return std::equal(text.begin(), text.end(), value.begin(), [](wchar_t c, char d) {
-    return c == static_cast<wchar_t>(d) || d == '?' || static_cast<unsigned char>(d) >= 0x80;
-  });
+  const std::string text = PlainPart(read.text);
+  return PlainPart(value).compare(0, text.size(), text) == 0;
 }
 
 }  // namespace
@@ -85,11 +83,15 @@ std::size_t Reading::LineOf(const std::string& key) const {
   return governor != nullptr ? LineOf(governor) : std::max<std::size_t>(lines.HeaderLine(), 1);
 }
 
+bool Reading::Lists(const KeyLine& line) const {
+  return !line.HasPlainName() || listedKeys.count(Folded(line.name)) != 0;
+}
+
 bool Reading::Confirms(const KeyLine& line) const {
+  if (!line.HasPlainName()) return true;
   const KeyLine* counting = lines.Find(line.name);
   // Platforms differ in whether they list a line without a value.
-  const bool isListed =
-      listedKeys.count(Folded(line.name)) != 0 || (counting != nullptr && !counting->hasEquals);
+  const bool isListed = Lists(line) || (counting != nullptr && !counting->hasEquals);
   if (counting == nullptr) return !isListed;
   const WatchedRead* read = Find(line.name);
   return isListed && (read == nullptr || IsReadOf(*read, counting->value));

@@ -29,6 +29,8 @@ struct Reading {
   /// The line that the read of the key came from; without one, that of the key that governs it, or
   /// else the start of the section.
   std::size_t LineOf(const std::string& key) const;
+  /// Whether the library sees the line's key in the section. A name beyond ASCII is taken on trust.
+  bool Lists(const KeyLine& line) const;
   /// Whether what was read bears out what the index says of the line.
   bool Confirms(const KeyLine& line) const;
 
