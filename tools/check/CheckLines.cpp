@@ -53,23 +53,37 @@ bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32
   return reading.numbersAskedFor.count({governor, number}) != 0;
 }
 
+void CheckUnknownKey(const Check& check, const KeyLine& line) {
+  const std::string nearest = NearestKey(check.reading, line.name);
+  check.Add(line.number, Severity::Warning, line.name,
+            line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
+            kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
+}
+
+void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string& governor,
+                      std::int32_t number) {
+  if (IsCalledFor(check.reading, governor, number)) return;
+  // The thicknesses of other settings are what a setting is picked from.
+  const bool isChoice =
+      governor == "CuttingMarginSetting" && check.reading.FindNumber(governor) != nullptr;
+  const bool isWritten = check.reading.lines.Find(governor) != nullptr;
+  check.Add(line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
+            Numbered(governor + " does not ask for number #", number), kNoEffect,
+            (isWritten ? "change " : "write ") + governor + " or remove the line");
+}
+
 void CheckUnreadKey(const Check& check, const KeyLine& line) {
   std::int32_t number = 0;
   const KnownKey* known = check.reading.KnownKeyOf(line.name, &number);
   if (known == nullptr) {
-    const std::string nearest = NearestKey(check.reading, line.name);
+    CheckUnknownKey(check, line);
+  } else if (const char* governor = FactsOf(known->Shape()).governor) {
+    CheckUncalledKey(check, line, governor, number);
+  } else {
     check.Add(line.number, Severity::Warning, line.name,
-              line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
-              kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
-    return;
+              "nothing asks for this key without print modes", kNoEffect,
+              "list modes in Mode or remove the line");
   }
-  const char* governor = FactsOf(known->Shape()).governor;
-  if (governor == nullptr || IsCalledFor(check.reading, governor, number)) return;
-  // The thicknesses of other settings are what a setting is picked from.
-  const bool isChoice = governor == std::string("CuttingMarginSetting");
-  check.Add(line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
-            Numbered(std::string(governor) + " does not ask for number #", number), kNoEffect,
-            std::string("change ") + governor + " or remove the line");
 }
 
 /// The line that counts in place of this one; null where this one does. Unlike names with '?' for

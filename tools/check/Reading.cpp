@@ -54,7 +54,7 @@ Reading::Reading(const Bytes& plain) : lines(plain), knownKeys(ListKnownKeys()) 
   for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection)))
     listedKeys.insert(Folded(NarrowCopy(key)));
   ReadModeList(ini, &modes);
-  ReadLimitationModeList(ini, &limitationModes);
+  if (!modes.empty()) ReadLimitationModeList(ini, &limitationModes);
 }
 
 const WatchedRead* Reading::Find(const std::string& key) const {

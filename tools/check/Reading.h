@@ -43,7 +43,7 @@ struct Reading {
   std::set<std::pair<std::string, std::int32_t>> numbersAskedFor;  ///< with their governor
   std::set<std::string> listedKeys;  ///< those of the section as the library sees it, folded
   std::vector<std::int32_t> modes;   ///< as "Mode" lists them
-  std::vector<std::int32_t> limitationModes;
+  std::vector<std::int32_t> limitationModes;  ///< none while there are no modes
 };
 
 }  // namespace tavrin::tool
