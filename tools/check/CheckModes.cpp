@@ -37,7 +37,8 @@ void CheckModes(const Check& check) {
   std::set<std::int32_t> seen;
   for (const std::int32_t number : check.reading.modes) {
     if (seen.insert(number).second) continue;
-    check.Warn("Mode", Numbered("mode # is listed again", number), "the printer gets it once more",
+    check.Warn("Mode", Numbered("mode # is listed again", number),
+               HasMode(check, number) ? "the printer gets it once more" : "it is left out again",
                "list each mode once");
   }
   for (const auto& mode : check.reading.config->Modes) {
