@@ -22,7 +22,12 @@ void Check::Warn(const std::string& key, const std::string& what, const std::str
 
 std::string Quoted(const std::string& text) {
   constexpr std::size_t kLongest = 40;
-  return '"' + (text.size() > kLongest ? text.substr(0, kLongest) + "..." : text) + '"';
+  if (text.size() <= kLongest) return '"' + text + '"';
+  const auto continuesCharacter = [](char c) { return (c & 0xC0) == 0x80; };
+  std::size_t end = kLongest;
+  while (end > kLongest - 3 && continuesCharacter(text[end]))
+    --end;
+  return '"' + text.substr(0, end) + "...\"";
 }
 
 std::string Numbered(const std::string& text, std::int32_t number) {

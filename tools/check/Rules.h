@@ -22,8 +22,7 @@ struct Check {
   Findings* findings;
 };
 
-/// A text of the file in quotes, made fit for a line of output: cut when it is long, and without
-/// control characters.
+/// A text of the file in quotes, cut to at most 40 bytes; not within a character where it is UTF-8.
 std::string Quoted(const std::string& text);
 /// The text with the number in place of each '#'.
 std::string Numbered(const std::string& text, std::int32_t number);
