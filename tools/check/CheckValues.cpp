@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <string>
@@ -32,7 +33,8 @@ class ValueCheck {
   void CheckRange() const;
 
  private:
-  void CheckField(const std::string& field, bool isInteger) const;
+  void CheckField(const std::wstring& field, bool isInteger) const;
+  void CheckRest(const std::wstring& field, bool isInteger) const;
   /// Of the code or name of a table's entry, the line of the other; null when it has none.
   const KeyLine* OtherHalf() const;
   std::string Outcome() const { return facts_.Outcome(*check_.reading.config, number_); }
@@ -84,16 +86,18 @@ void ValueCheck::CheckText() const {
       written.find("\xEF\xBF\xBD") == std::string::npos) {
     Warn("the value has bytes that are no character of the user's encoding",
          "the printer gets a replacement character for each", "save the file in that encoding");
-  } else if (NarrowCopy(read_.text).empty()) {
+  } else if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
     Warn("the value has a character that the user's encoding lacks",
          "the printer gets an empty text", "do without that character");
   }
 }
 
 void ValueCheck::CheckFields() const {
-  const Form form = read_.kind == Kind::Integer  ? Form::Integer
-                    : read_.kind == Kind::Number ? Form::Number
-                                                 : facts_.form;
+  if (read_.kind != Kind::Text) {
+    CheckField(read_.text, read_.kind == Kind::Integer);
+    return;
+  }
+  const Form form = facts_.form;
   if (form == Form::Text) return;
   const bool isInteger = form == Form::Integer || form == Form::Integers;
   const std::string text = NarrowCopy(read_.text);
@@ -107,28 +111,39 @@ void ValueCheck::CheckFields() const {
     return;
   }
   for (std::size_t i = 0; i < wanted; ++i)
-    CheckField(fields[i], isInteger);
+    CheckField(WideCopy(fields[i]), isInteger);
   if (fields.size() > wanted) Warn(count, kRestHasNoEffect, "remove the rest");
 }
 
-void ValueCheck::CheckField(const std::string& field, bool isInteger) const {
+void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
   std::int32_t integer = 0;
   double number = 0.0;
   if (isInteger ? !ParseInt(field, &integer) : !ParseDouble(field, &number)) {
-    Warn(Quoted(field) + (isInteger ? " is no 32-bit integer" : " is no number"), Outcome(),
+    Warn(Quoted(NarrowCopy(field)) + (isInteger ? " is no 32-bit integer" : " is no number"),
+         Outcome(),
          isInteger ? "write an integer" : "write a number with a full stop before its decimals");
     return;
   }
+  CheckRest(field, isInteger);
+}
+
+/// What precedes the number of a field that has one is white space, no-break spaces included.
+void ValueCheck::CheckRest(const std::wstring& field, bool isInteger) const {
+  const auto begin =
+      std::find_if(field.begin(), field.end(), [](wchar_t c) { return c > L' ' && c < 0x7F; });
+  const std::string text(begin,
+                         std::find_if(begin, field.end(), [](wchar_t c) { return c >= 0x7F; }));
   char* after = nullptr;
   if (isInteger) {
-    std::strtol(field.c_str(), &after, 10);
+    std::strtol(text.c_str(), &after, 10);
   } else {
-    std::strtod(field.c_str(), &after);
+    std::strtod(text.c_str(), &after);
   }
-  const auto end = static_cast<std::size_t>(after - field.c_str());
-  if (end == 0 || field.find_first_not_of(" \t", end) == std::string::npos) return;
-  const std::string read = Quoted(field.substr(0, end));
-  Warn("only " + read + " of " + Quoted(field) + " is read", kRestHasNoEffect,
+  const auto length = after - text.c_str();
+  const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
+  if (std::all_of(begin + length, field.end(), isBlank)) return;
+  const std::string read = Quoted(text.substr(0, static_cast<std::size_t>(length)));
+  Warn("only " + read + " of " + Quoted(NarrowCopy(field)) + " is read", kRestHasNoEffect,
        "write " + read + " or the number that is meant");
 }
 
