@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "check/KnownKeys.h"
 #include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
@@ -56,10 +57,19 @@ Keys KeysIn(const std::string& path, const char* line) {
   return keys;
 }
 
-TEST(DefinitionKeys, ReaderDocumentTemplateAndExampleHaveTheSame) {
+/// The keys that check knows.
+Keys KnownKeys() {
+  Keys keys;
+  for (const tool::KnownKey& key : tool::ListKnownKeys())
+    keys.insert(Folded(key.WithNumber(1)));
+  return keys;
+}
+
+TEST(DefinitionKeys, ReaderCheckDocumentTemplateAndExampleHaveTheSame) {
   WatchedFile example(kExample);
   PrinterConfig config;
   ASSERT_TRUE(config.ParseOpened(example));
+  EXPECT_EQ(KnownKeys(), example.asked);
   EXPECT_EQ(KeysIn(kDocument, "^\\| `(\\w+)` \\|"), example.asked);
   EXPECT_EQ(KeysIn(kTemplate, "^;?(\\w+)="), example.asked);
   EXPECT_EQ(KeysIn(kExample, "^(\\w+)="), example.asked);
