@@ -70,8 +70,10 @@ void AddTemplate(CLI::App* app) {
   command->footer(
       "It has every key, with meaning, unit, default and range. As it stands it loads to the\n"
       "library's own defaults: change the values that differ in your printer, and take away the\n"
-      "';' before the keys that it needs. docs/definition-file.md has the rules in full.\n\n"
+      "';' before the keys that it needs. tavrin check then tells what the library makes of it;\n"
+      "docs/definition-file.md has the rules in full.\n\n"
       "Example: tavrin template > printer.ini\n"
+      "         tavrin check printer.ini\n"
       "         tavrin encipher printer.ini printer.dat");
   command->callback(tavrin::tool::PrintTemplate);
 }

@@ -53,6 +53,7 @@ check("--color=always" output MATCHES ":3: ${escape}\\[33mwarning${escape}\\[0m:
 
 refuse(3 "missing: does not exist" check missing white-off.ini)
 check("a file behind one that cannot be read" output MATCHES "^white-off.ini:3: warning: ")
+refuse(3 "empty: is empty" check empty)
 refuse(2 "threshold" check --threshold=fatal white-off.ini)
 if(NOT TOOL MATCHES "wine-run")  # which has an empty standard input
   execute_process(COMMAND ${TOOL} check - WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/white-off.dat

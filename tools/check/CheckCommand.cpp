@@ -92,7 +92,8 @@ void AddCheck(CLI::App* app, int* status) {
       "instead, what to do. An error keeps the definition from loading or a query from\n"
       "answering; a warning is something written that has no effect, or a surprising one;\n"
       "a note is a default that is used.\n"
-      "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file cannot be read\n"
+      "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file that is empty or cannot be\n"
+      "read; 2 also for a mistake in the command line\n\n"
       "Example: tavrin check printer.ini");
   command->callback([options, status] { *status = CheckFiles(*options); });
 }
