@@ -9,7 +9,7 @@
 #include <string>
 
 #include "TavrinLib.h"
-#include "differential/DefinitionGenerator.h"
+#include "fuzz/differential/DefinitionGenerator.h"
 #include "support/LibraryAnswers.h"
 #include "support/TestFiles.h"
 #include "unit/TestText.h"

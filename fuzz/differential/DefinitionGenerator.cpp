@@ -1,4 +1,4 @@
-#include "differential/DefinitionGenerator.h"
+#include "fuzz/differential/DefinitionGenerator.h"
 
 #include <algorithm>
 #include <cctype>
