@@ -1,3 +1,5 @@
+#include <functional>
+#include <limits>
 #include <new>
 #include <string>
 
@@ -108,6 +110,66 @@ TEST_F(AllocationFault, WhatIsNotHandedOutLeavesBothOutputsUntouched) {
   ExpectBothOrNeither<char>([=](auto... out) { return slot->GetInkName(out...); });
   ExpectBothOrNeither<std::int32_t>(
       [](auto... out) { return TavrinGetInkSlotNumConposeInkCategory(0, out...); });
+}
+
+/// How often call asks for memory.
+long RequestsOf(const std::function<bool()>& call) {
+  Allocations::FailAt(std::numeric_limits<long>::max(), Allocations::Failing::Once);
+  call();
+  return Allocations::Disarm();
+}
+
+TEST_F(AllocationFault, OnlyWhatHandsOutAnArrayAllocates) {
+  std::uint32_t values[3] = {};
+  std::int32_t mode[6] = {};
+  char info[384] = {};
+  bool flag = false;
+  double size = 0;
+  InkSlot* slot = nullptr;
+  const struct {
+    const char* name;
+    std::function<bool()> call;
+  } queries[] = {
+      {"last error", [&] { return TavrinGetLastError(values); }},
+      {"area", [&] { return TavrinGetAreaSize(&values[0], &values[1], &values[2]); }},
+      {"margin", [&] { return TavrinGetAreaMarginSize(values); }},
+      {"mode count", [&] { return TavrinGetModeCount(values); }},
+      {"mode", [&] { return TavrinGetModeConfig(0, mode); }},
+      {"top support", [&] { return TavrinGetTopSupportThickness(values); }},
+      {"side support", [&] { return TavrinGetSideSupportThickness(10000, values); }},
+      {"detach layer", [&] { return TavrinGetDetachLayerHeight(values); }},
+      {"smoothing", [&] { return TavrinGetSmoothing(&flag); }},
+      {"bidirectional", [&] { return TavrinGetFeedBiDirection(&flag); }},
+      {"wrap reduction", [&] { return TavrinGetWrapReduction(&flag); }},
+      {"warp warning", [&] { return TavrinGetWarpWarning(0, &flag); }},
+      {"info", [&] { return TavrinGetInfo(info); }},
+      {"head band", [&] { return TavrinGetHeadBandSize(&size); }},
+      {"default mode", [&] { return TavrinGetDefaultPrintMode(values); }},
+      {"chipping allowance", [&] { return TavrinGetChippingAllowance(values); }},
+      {"support size", [&] { return TavrinGetSupportSize(values); }},
+      {"auto cleaning", [&] { return TavrinGetAutoCleaning(&flag); }},
+      {"nozzle check", [&] { return TavrinGetCheckNozzleWhilePrinting(&flag); }},
+      {"category count", [&] { return TavrinGetItemCountOfInkCategory(values); }},
+      {"slot count", [&] { return TavrinGetItemCountOfInkSlot(values); }},
+      {"invalid slot", [&] { return TavrinGetInkSlot(2, &slot); }},
+      {"its colour", [&] { return slot->GetColorCode(values); }},
+      {"its ink type", [&] { return slot->GetInkTypeCode(values); }},
+      {"its validity", [&] { return !slot->IsValid(); }},
+      {"valid slot", [&] { return TavrinGetInkSlot(1, &slot); }},
+      {"its colour", [&] { return slot->GetColorCode(values); }},
+      {"its ink type", [&] { return slot->GetInkTypeCode(values); }},
+      {"its validity", [&] { return slot->IsValid(); }},
+  };
+  ASSERT_TRUE(InitializeDefinition(
+      std::string("PrinterInkSlotNum=2\nColorCodeInkSlot2=77\nInkTypeCodeInkSlot2=9\n") + kLines));
+  for (const auto& query : queries) {
+    EXPECT_EQ(RequestsOf(query.call), 0) << query.name;
+    EXPECT_TRUE(query.call()) << query.name;
+  }
+  std::int32_t count = 0;
+  char* id = nullptr;
+  EXPECT_EQ(RequestsOf([&] { return slot->GetInkId(&id, &count); }), 1) << "what an array takes";
+  delete[] id;
 }
 
 }  // namespace
