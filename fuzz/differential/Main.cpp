@@ -24,12 +24,22 @@ std::uint64_t HashOf(const std::string& text) {
   return hash;
 }
 
+/// An answer and the last-error code after it, which a success leaves as it was.
+std::string Outcome(const std::string& call, bool result) {
+  std::uint32_t code = 99;
+  TavrinGetLastError(&code);
+  return call + (result ? " true, error " : " false, error ") + std::to_string(code) + '\n';
+}
+
 std::string AnswersTo(const TestFolder& folder, const std::string& definition) {
   const std::string path = folder.WriteEnciphered("printer.dat", definition);
-  const bool loaded = TavrinInitialize(path.c_str());
-  const std::string answers = AllAnswers(folder.PathOf("conditions.dat"));
-  TavrinFinalize();
-  return (loaded ? "Initialize true\n" : "Initialize false\n") + answers;
+  std::string answers = Outcome("Initialize null", TavrinInitialize(nullptr));
+  answers += Outcome("Initialize", TavrinInitialize(path.c_str()));
+  answers += Outcome("Initialize null", TavrinInitialize(nullptr));
+  answers += AllAnswers(folder.PathOf("conditions.dat"));
+  answers += Outcome("Finalize", TavrinFinalize());
+  answers += Outcome("Finalize again", TavrinFinalize());
+  return answers;
 }
 
 }  // namespace
