@@ -77,29 +77,35 @@ constexpr char kFullDevice[] = "/dev/full";
 
 class SystemFault : public SystemFaultTest {
  protected:
-  /// Where the plain copy of the definition goes.
-  std::string PlainCopy() const {
-    return temporary + "/" + std::filesystem::read_symlink("/proc/self/exe").stem().string() +
-           "_printer.bin";
-  }
-
   /// Takes the place of the plain copy by way of place, and leaves it free again.
   Failing AtThePlainCopy(const std::function<void(const std::string&)>& place) const {
-    place(PlainCopy());
-    return Until([path = PlainCopy()] { std::filesystem::remove_all(path); });
+    place(plainCopy);
+    return Until([this] { std::filesystem::remove_all(plainCopy); });
+  }
+
+  /// The definition lies, deciphered, where its plain copy can be neither replaced nor removed.
+  Failing LockedPlainCopy() const {
+    Failing copy = AtThePlainCopy([&](auto path) { folder.Write(path, Definition(kLines)); });
+    return Until([copy, rights = Rights(temporary, 0555)]() mutable { rights.reset(); });
   }
 
   const std::string precious = folder.Write("precious", "precious");
+  /// Where the plain copy of the definition goes.
+  const std::string plainCopy = temporary + "/" +
+                                std::filesystem::read_symlink("/proc/self/exe").stem().string() +
+                                "_printer.bin";
 };
 
 TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
   using std::filesystem::create_directories;
   using std::filesystem::create_symlink;
+  const std::string longName = std::string(240, 'n') + ".dat";
   const struct {
     const char* name;
     std::function<Failing()> begin;
     bool loads;
-    std::string path = {};  // instead of the definition
+    std::string path = {};   // instead of the definition
+    bool keepsCopy = false;  // what lies in the place of the plain copy stays there
   } situations[] = {
       {"missing temporary directory", [&] { return TemporaryDirectory(temporary + "/none"); },
        false},
@@ -113,9 +119,15 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
       {"a file as directory", [] { return nullptr; }, false, precious + "/printer.dat"},
       {"the longest path", [] { return nullptr; }, true, Lengthened(definition, 4095)},
       {"a path that is too long", [] { return nullptr; }, false, Lengthened(definition, 4096)},
+      {"a name that leaves no room for the plain copy's", [] { return nullptr; }, false,
+       folder.Write(longName, ReadWhole(definition))},
       {"directory at the plain copy",
-       [&] { return AtThePlainCopy([](auto path) { create_directories(path + "/full"); }); },
-       false},
+       [&] { return AtThePlainCopy([](auto path) { create_directories(path + "/full"); }); }, false,
+       definition, true},
+      {"empty directory at the plain copy",
+       [&] { return AtThePlainCopy([](auto path) { create_directories(path); }); }, false},
+      {"file at the plain copy that cannot be replaced", [&] { return LockedPlainCopy(); }, true,
+       definition, true},
       {"link at the plain copy",
        [&] { return AtThePlainCopy([&](auto path) { create_symlink(precious, path); }); }, true},
       {"link to nowhere at the plain copy",
@@ -130,8 +142,11 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
     SetLastErrorAside();
     Failing failing = situation.begin();
     const bool loaded = TavrinInitialize(path.c_str());
+    std::error_code error;
+    const auto copy = std::filesystem::symlink_status(plainCopy, error);
     failing.reset();
     EXPECT_EQ(loaded, situation.loads);
+    EXPECT_EQ(std::filesystem::exists(copy), situation.keepsCopy);
     EXPECT_EQ(LastError(), static_cast<std::uint32_t>(loaded ? ErrorInvalidArgument : ErrorFailed));
     if (loaded) {
       EXPECT_EQ(AskEverything(), answers);
@@ -183,6 +198,19 @@ TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
     EXPECT_EQ(std::filesystem::remove(fresh), opened && situation.path != kFullDevice);
     ExpectAllInOrder();
   }
+}
+
+TEST_F(SystemFault, AConditionsFileGoesIntoAPipeWhole) {
+  const std::string path = folder.PathOf("pipe");
+  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK);
+  ASSERT_TRUE(TavrinInitialize(definition.c_str()));
+  EXPECT_TRUE(TavrinCreateModelingConditionsFile(path.c_str()));
+  std::string content(ReadWhole(definition).size() + 1, '\0');
+  const ssize_t size = read(reader, content.data(), content.size());
+  close(reader);
+  EXPECT_EQ(content.substr(0, static_cast<std::size_t>(size)), ReadWhole(definition));
+  ExpectAllInOrder();
 }
 
 TEST_F(SystemFault, AFullFileSystemHoldsNoPlainCopyAfterwards) {
