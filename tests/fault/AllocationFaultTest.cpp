@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <functional>
 #include <limits>
 #include <new>
@@ -12,7 +13,7 @@ namespace {
 enum class Result { True, False, Threw };
 
 /// Makes call fail at its first allocation, its second and so on until there are no more, and looks
-/// at each result with check.
+/// at each result with check. Prints how many there are.
 template <typename Call, typename Check>
 void ForEveryAllocation(Call call, Check check) {
   for (const auto failing : {Allocations::Failing::Once, Allocations::Failing::FromThereOn}) {
@@ -29,6 +30,7 @@ void ForEveryAllocation(Call call, Check check) {
       check(result);
       if (testing::Test::HasFailure()) return;
       EXPECT_TRUE(isReached || (n > 1 && result == Result::True));
+      if (!isReached) std::printf("%ld requests, each made to fail\n", n - 1);
     }
   }
 }
