@@ -7,7 +7,7 @@
 #include "TavrinLib.h"
 #include "api/LibraryInstance.h"
 #include "fuzz/Require.h"
-#include "support/LibraryAnswers.h"
+#include "support/Answers.h"
 #include "support/TestFiles.h"
 
 using namespace tavrin;
@@ -20,8 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool parsed = config->Parse(path);
   fuzz::Require(parsed == !config->Version.empty(), "a definition is one that has a version");
   if (parsed) libraryInstance = config.release();
-  const std::string answers = test::AllAnswers(folder.PathOf("conditions"));
-  fuzz::Require(test::AllAnswers(folder.PathOf("conditions")) == answers,
+  const std::string answers = test::AskEverythingAndWrite(folder.PathOf("conditions"));
+  fuzz::Require(test::AskEverythingAndWrite(folder.PathOf("conditions")) == answers,
                 "asking changes no answer");
   TavrinFinalize();
   return 0;

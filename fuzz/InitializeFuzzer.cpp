@@ -8,7 +8,7 @@
 #include "TavrinLib.h"
 #include "definition/FileCipher.h"
 #include "fuzz/Require.h"
-#include "support/LibraryAnswers.h"
+#include "support/Answers.h"
 #include "support/TestFiles.h"
 
 using namespace tavrin;
@@ -35,13 +35,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Require(std::distance(begin(entries), end(entries)) == 1,
                 "loading leaves no file in the temporary directory");
 
-  test::AllAnswers(conditions);
+  test::AskEverythingAndWrite(conditions);
   if (loaded) {
     fuzz::Require(test::ReadWhole(conditions) == content,
                   "the modeling conditions file is the definition");
-    const std::string answers = test::AllAnswers(conditions);
+    const std::string answers = test::AskEverythingAndWrite(conditions);
     fuzz::Require(TavrinInitialize(conditions.c_str()), "a modeling conditions file loads");
-    fuzz::Require(test::AllAnswers(folder.PathOf("again")) == answers,
+    fuzz::Require(test::AskEverythingAndWrite(folder.PathOf("again")) == answers,
                   "it gives the answers of the definition");
   }
   TavrinFinalize();

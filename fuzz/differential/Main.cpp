@@ -10,7 +10,7 @@
 
 #include "TavrinLib.h"
 #include "fuzz/differential/DefinitionGenerator.h"
-#include "support/LibraryAnswers.h"
+#include "support/Answers.h"
 #include "support/TestFiles.h"
 #include "unit/TestText.h"
 
@@ -36,7 +36,7 @@ std::string AnswersTo(const TestFolder& folder, const std::string& definition) {
   std::string answers = Outcome("Initialize null", TavrinInitialize(nullptr));
   answers += Outcome("Initialize", TavrinInitialize(path.c_str()));
   answers += Outcome("Initialize null", TavrinInitialize(nullptr));
-  answers += AllAnswers(folder.PathOf("conditions.dat"));
+  answers += AskEverythingAndWrite(folder.PathOf("conditions.dat"));
   answers += Outcome("Finalize", TavrinFinalize());
   answers += Outcome("Finalize again", TavrinFinalize());
   return answers;

@@ -1,124 +1,201 @@
 #include "support/Answers.h"
 
-#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <limits>
 #include <memory>
-#include <sstream>
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "support/TestFiles.h"
 
 namespace tavrin::test {
 
 namespace {
 
-class Record {
+constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+constexpr std::uint32_t kUntouched = 0xABABABAB;
+
+std::string Hex(const void* bytes, std::size_t size) {
+  const char* digits = "0123456789abcdef";
+  std::string text;
+  for (std::size_t i = 0; i < size; ++i) {
+    const auto byte = static_cast<const unsigned char*>(bytes)[i];
+    text += {digits[byte >> 4], digits[byte & 15]};
+  }
+  return text;
+}
+
+class Answers {
  public:
   template <typename... Values>
-  void Note(bool answered, const Values&... values) {
-    text_ << answered;
-    ((text_ << ' ' << values), ...);
-    text_ << '\n';
+  void Add(const std::string& question, bool result, const Values&... values) {
+    text_ += question + (result ? " true" : " false");
+    ((text_ += ' ' + Spelled(values)), ...);
+    std::uint32_t code = kUntouched;
+    if (!result && TavrinGetLastError(&code)) text_ += " error " + std::to_string(code);
+    text_ += '\n';
   }
 
+  /// Asks for a value of a type that the query sets in full or not at all.
   template <typename Value>
-  void NoteOneOf(bool (*query)(Value*)) {
+  void AddQuery(const char* name, bool (*query)(Value*)) {
     Value value{};
-    const bool answered = query(&value);
-    Note(answered, value);
+    const bool result = query(&value);
+    Add(name, result, value);
   }
 
-  std::string Text() const { return text_.str(); }
+  std::string Take() { return std::move(text_); }
 
  private:
-  std::ostringstream text_;
+  static std::string Spelled(const std::string& text) { return text; }
+  static std::string Spelled(double value) {
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return std::to_string(bits);
+  }
+  template <typename Integer>
+  static std::string Spelled(Integer value) {
+    return std::to_string(value);
+  }
+
+  std::string text_;
 };
 
-std::uint32_t CountOf(bool (*query)(std::uint32_t*)) {
+void AskIdentity(Answers* answers) {
+  char info[384];
+  std::memset(info, '?', sizeof info);
+  const bool result = TavrinGetInfo(info);
+  answers->Add("Info", result, Hex(info, sizeof info));
+  answers->Add("Info null", TavrinGetInfo(nullptr));
+}
+
+void AskScalars(Answers* answers) {
+  std::uint32_t x = 0, y = 0, z = 0;
+  const bool result = TavrinGetAreaSize(&x, &y, &z);
+  answers->Add("AreaSize", result, x, y, z);
+  answers->AddQuery("AreaMarginSize", TavrinGetAreaMarginSize);
+  answers->AddQuery("TopSupportThickness", TavrinGetTopSupportThickness);
+  answers->AddQuery("DetachLayerHeight", TavrinGetDetachLayerHeight);
+  answers->AddQuery("HeadBandSize", TavrinGetHeadBandSize);
+  answers->AddQuery("DefaultPrintMode", TavrinGetDefaultPrintMode);
+  answers->AddQuery("ChippingAllowance", TavrinGetChippingAllowance);
+  answers->AddQuery("SupportSize", TavrinGetSupportSize);
+  answers->AddQuery("Smoothing", TavrinGetSmoothing);
+  answers->AddQuery("FeedBiDirection", TavrinGetFeedBiDirection);
+  answers->AddQuery("WrapReduction", TavrinGetWrapReduction);
+  answers->AddQuery("AutoCleaning", TavrinGetAutoCleaning);
+  answers->AddQuery("CheckNozzleWhilePrinting", TavrinGetCheckNozzleWhilePrinting);
+  for (const std::int32_t height : {kLowest, -1, 0, 1, 10000, 305000, kHighest}) {
+    std::uint32_t thickness = kUntouched;
+    const bool known = TavrinGetSideSupportThickness(height, &thickness);
+    answers->Add("SideSupportThickness " + std::to_string(height), known, thickness);
+  }
+}
+
+void AskMode(Answers* answers, std::int32_t index) {
+  std::int32_t config[6] = {7, 7, 7, 7, 7, 7};
+  const bool known = TavrinGetModeConfig(index, config);
+  answers->Add("ModeConfig " + std::to_string(index), known, config[0], config[1], config[2],
+               config[3], config[4], config[5]);
+  bool limited = false;
+  const bool warned = TavrinGetWarpWarning(index, &limited);
+  answers->Add("WarpWarning " + std::to_string(index), warned, limited);
+}
+
+void AskModes(Answers* answers) {
+  std::uint32_t count = kUntouched;
+  const bool result = TavrinGetModeCount(&count);
+  answers->Add("ModeCount", result, count);
+  for (std::int32_t i = -1; i <= static_cast<std::int32_t>(count); ++i)
+    AskMode(answers, i);
+  AskMode(answers, kLowest);
+  AskMode(answers, kHighest);
+}
+
+void AskCategory(Answers* answers, std::int32_t index) {
+  std::int32_t* numbers = nullptr;
+  std::int32_t count = 0;
+  const bool known = TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count);
+  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  std::string list;
+  for (std::int32_t i = 0; i < count; ++i)
+    list += std::to_string(numbers[i]) + ',';
+  answers->Add("Category " + std::to_string(index), known, count, list);
+}
+
+void AskCategories(Answers* answers) {
   std::uint32_t count = 0;
-  return query(&count) ? count : 0;
+  const bool result = TavrinGetItemCountOfInkCategory(&count);
+  answers->Add("CategoryCount", result, count);
+  for (std::int32_t i = -1; i <= static_cast<std::int32_t>(count); ++i)
+    AskCategory(answers, i);
+  AskCategory(answers, kLowest);
+  AskCategory(answers, kHighest);
 }
 
-void NoteScalars(Record* record) {
-  for (const auto query :
-       {TavrinGetAreaMarginSize, TavrinGetModeCount, TavrinGetTopSupportThickness,
-        TavrinGetDetachLayerHeight, TavrinGetDefaultPrintMode, TavrinGetChippingAllowance,
-        TavrinGetSupportSize, TavrinGetItemCountOfInkCategory, TavrinGetItemCountOfInkSlot}) {
-    record->NoteOneOf(query);
-  }
-  for (const auto query : {TavrinGetSmoothing, TavrinGetFeedBiDirection, TavrinGetWrapReduction,
-                           TavrinGetAutoCleaning, TavrinGetCheckNozzleWhilePrinting}) {
-    record->NoteOneOf(query);
-  }
-  record->NoteOneOf(TavrinGetHeadBandSize);
-  std::uint32_t size[3] = {};
-  const bool hasSize = TavrinGetAreaSize(&size[0], &size[1], &size[2]);
-  record->Note(hasSize, size[0], size[1], size[2]);
-  std::uint32_t thickness = 0;
-  const bool hasThickness = TavrinGetSideSupportThickness(100000, &thickness);
-  record->Note(hasThickness, thickness);
-  char info[384] = {};
-  const bool hasInfo = TavrinGetInfo(info);
-  record->Note(hasInfo, std::string(info, sizeof info));
-}
-
-void NoteModes(Record* record) {
-  const auto count = static_cast<std::int32_t>(CountOf(TavrinGetModeCount));
-  for (std::int32_t index = 0; index <= count; ++index) {
-    std::int32_t mode[6] = {};
-    bool limited = false;
-    const bool hasMode = TavrinGetModeConfig(index, mode);
-    record->Note(hasMode, mode[0], mode[1], mode[2], mode[3], mode[4], mode[5]);
-    const bool hasWarning = TavrinGetWarpWarning(index, &limited);
-    record->Note(hasWarning, limited);
-  }
-}
-
-void NoteCategories(Record* record) {
-  const auto categories = static_cast<std::int32_t>(CountOf(TavrinGetItemCountOfInkCategory));
-  for (std::int32_t index = 0; index <= categories; ++index) {
-    std::int32_t* numbers = nullptr;
-    std::int32_t count = 0;
-    const bool answered = TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count);
-    const std::unique_ptr<std::int32_t[]> owned(numbers);
-    record->Note(answered, count);
-    std::for_each(numbers, numbers + count,
-                  [&](std::int32_t number) { record->Note(true, number); });
-  }
-}
-
-std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
+void AddText(Answers* answers, const char* question, const InkSlot& slot,
+             bool (InkSlot::*get)(char**, std::int32_t*) const) {
   char* text = nullptr;
-  std::int32_t size = 0;
-  (slot.*get)(&text, &size);
+  std::int32_t size = -1;
+  const bool result = (slot.*get)(&text, &size);
   const std::unique_ptr<char[]> owned(text);
-  return text == nullptr ? "none" : std::string(text, static_cast<std::size_t>(size));
+  answers->Add(question, result, size,
+               text == nullptr ? "none" : Hex(text, static_cast<std::size_t>(size)));
+  answers->Add(question + std::string(" null"), (slot.*get)(nullptr, &size), size);
 }
 
-void NoteSlots(Record* record) {
-  const std::uint32_t count = CountOf(TavrinGetItemCountOfInkSlot);
-  for (std::uint32_t number = 1; number <= count + 1; ++number) {
-    InkSlot* slot = nullptr;
-    const bool answered = TavrinGetInkSlot(number, &slot);
-    record->Note(answered);
-    if (slot == nullptr) continue;
-    std::uint32_t color = 0;
-    std::uint32_t inkType = 0;
-    slot->GetColorCode(&color);
-    slot->GetInkTypeCode(&inkType);
-    record->Note(slot->IsValid(), color, inkType, TextOf(*slot, &InkSlot::GetInkId),
-                 TextOf(*slot, &InkSlot::GetInkName));
-  }
+void AskSlot(Answers* answers, std::uint32_t number) {
+  InkSlot* slot = nullptr;
+  const bool known = TavrinGetInkSlot(number, &slot);
+  answers->Add("Slot " + std::to_string(number), known, slot != nullptr);
+  if (slot == nullptr) return;
+  std::uint32_t color = kUntouched, inkType = kUntouched;
+  const bool hasColor = slot->GetColorCode(&color);
+  const bool hasInkType = slot->GetInkTypeCode(&inkType);
+  answers->Add(" ColorCode", hasColor, color);
+  answers->Add(" InkTypeCode", hasInkType, inkType);
+  AddText(answers, " InkId", *slot, &InkSlot::GetInkId);
+  AddText(answers, " InkName", *slot, &InkSlot::GetInkName);
+  answers->Add(" IsValid", slot->IsValid());
+}
+
+void AskSlots(Answers* answers) {
+  std::uint32_t count = 0;
+  const bool result = TavrinGetItemCountOfInkSlot(&count);
+  answers->Add("SlotCount", result, count);
+  for (std::uint32_t number = 0; number <= count + 1; ++number)
+    AskSlot(answers, number);
+  AskSlot(answers, std::numeric_limits<std::uint32_t>::max());
+  answers->Add("Slot null", TavrinGetInkSlot(1, nullptr));
+}
+
+void AskConditions(Answers* answers, const std::string& path) {
+  const bool written = TavrinCreateModelingConditionsFile(path.c_str());
+  const std::string content = written ? ReadWhole(path) : "";
+  answers->Add("Conditions", written, Hex(content.data(), content.size()));
+  answers->Add("Conditions null", TavrinCreateModelingConditionsFile(nullptr));
+  answers->Add("Conditions nameless", TavrinCreateModelingConditionsFile(""));
 }
 
 }  // namespace
 
 std::string AskEverything() {
-  Record record;
-  NoteScalars(&record);
-  NoteModes(&record);
-  NoteCategories(&record);
-  NoteSlots(&record);
-  return record.Text();
+  Answers answers;
+  AskIdentity(&answers);
+  AskScalars(&answers);
+  AskModes(&answers);
+  AskCategories(&answers);
+  AskSlots(&answers);
+  return answers.Take();
+}
+
+std::string AskEverythingAndWrite(const std::string& conditionsPath) {
+  const std::string queries = AskEverything();
+  Answers answers;
+  AskConditions(&answers, conditionsPath);
+  return queries + answers.Take();
 }
 
 }  // namespace tavrin::test

@@ -4,8 +4,14 @@
 
 namespace tavrin::test {
 
-/// Asks every query of the shared library, at every index that it names and one beyond, and writes
-/// the results and answers down. Arrays that are handed out are freed.
+/// Asks the library everything that its exports answer, indices out of range and null pointers
+/// included. Neither loads nor releases a definition; arrays that are handed out are freed.
+///
+/// @return one line an answer: the export, its arguments, its result, what it handed out (texts as
+///         hexadecimal bytes, doubles as their bits) and, where it failed, the last-error code.
 std::string AskEverything();
+
+/// The same, and writes the modeling conditions file.
+std::string AskEverythingAndWrite(const std::string& conditionsPath);
 
 }  // namespace tavrin::test
