@@ -2,7 +2,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <iterator>
 #include <string>
 
 #include "TavrinLib.h"
@@ -31,8 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool loaded = TavrinInitialize(folder.Write("printer.dat", content).c_str());
 
   // The folder of this process and nothing else: the plain copy is gone.
-  const std::filesystem::directory_iterator entries(std::filesystem::temp_directory_path());
-  fuzz::Require(std::distance(begin(entries), end(entries)) == 1,
+  fuzz::Require(test::EntriesOf(std::filesystem::temp_directory_path().string()) == 1,
                 "loading leaves no file in the temporary directory");
 
   test::AskEverythingAndWrite(conditions);

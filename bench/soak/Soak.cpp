@@ -24,11 +24,6 @@ struct Usage {
   long temporaryFiles = 0;
 };
 
-long EntriesOf(const std::string& folder) {
-  const std::filesystem::directory_iterator entries(folder);
-  return static_cast<long>(std::distance(begin(entries), end(entries)));
-}
-
 Usage MeasureUsage(const std::string& temporaryFolder) {
   Usage usage;
   long pages = 0;

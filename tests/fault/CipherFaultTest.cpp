@@ -29,10 +29,7 @@ TEST(CipherFault, ARefusedDecipheringFailsTheLoadBeforeAnyPlainCopy) {
   const std::string content = test::Definition("");
   const std::string path = folder.Write("printer.dat", content);
   const std::string copyPath = MakeTemporaryPath(path);
-  std::FILE* file = std::fopen(copyPath.c_str(), "wb");
-  ASSERT_NE(file, nullptr);
-  std::fputs("untouched", file);
-  std::fclose(file);
+  folder.Write(copyPath, "untouched");
 
   PrinterConfig config;
   EXPECT_FALSE(config.Load(path));

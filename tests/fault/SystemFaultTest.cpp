@@ -1,42 +1,17 @@
 #include "fault/SystemFaultTest.h"
 
-#include <csignal>
 #include <functional>
-#include <memory>
-#include <utility>
 
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace tavrin::test {
 namespace {
 
-/// A failing of the system that ends with the object.
-using Failing = std::shared_ptr<void>;
-
-Failing Until(std::function<void()> undo) {
-  return {nullptr, [undo = std::move(undo)](void*) { undo(); }};
-}
-
-Failing Limit(__rlimit_resource resource, rlim_t value) {
-  rlimit previous{};
-  EXPECT_EQ(getrlimit(resource, &previous), 0);
-  const rlimit lowered{value, previous.rlim_max};
-  EXPECT_EQ(setrlimit(resource, &lowered), 0);
-  return Until([=] { setrlimit(resource, &previous); });
-}
-
-/// No file grows beyond size, as where the file system is full.
-Failing FilesEndAt(rlim_t size) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  return Limit(RLIMIT_FSIZE, size);
-}
-
-Failing NoDescriptorsLeft() {
+Situation NoDescriptorsLeft() {
   const int lowestFree = dup(STDIN_FILENO);
   close(lowestFree);
   return Limit(RLIMIT_NOFILE, static_cast<rlim_t>(lowestFree));
@@ -44,7 +19,7 @@ Failing NoDescriptorsLeft() {
 
 /// Takes the rights to path down to mode. Permission bits stop everyone but root, who acts as
 /// somebody else meanwhile.
-Failing Rights(const std::string& path, mode_t mode) {
+Situation Rights(const std::string& path, mode_t mode) {
   constexpr uid_t kNobody = 65534;
   struct stat previous {};
   EXPECT_EQ(stat(path.c_str(), &previous), 0);
@@ -57,10 +32,8 @@ Failing Rights(const std::string& path, mode_t mode) {
   });
 }
 
-Failing TemporaryDirectory(const std::string& path) {
-  const std::string previous = std::getenv("TMPDIR");
-  setenv("TMPDIR", path.c_str(), 1);
-  return Until([=] { setenv("TMPDIR", previous.c_str(), 1); });
+Situation TemporaryDirectory(const std::string& path) {
+  return Variable("TMPDIR", path.c_str());
 }
 
 /// path, made length characters long by way of "the same directory".
@@ -78,14 +51,14 @@ constexpr char kFullDevice[] = "/dev/full";
 class SystemFault : public SystemFaultTest {
  protected:
   /// Takes the place of the plain copy by way of place, and leaves it free again.
-  Failing AtThePlainCopy(const std::function<void(const std::string&)>& place) const {
+  Situation AtThePlainCopy(const std::function<void(const std::string&)>& place) const {
     place(plainCopy);
     return Until([this] { std::filesystem::remove_all(plainCopy); });
   }
 
   /// The definition lies, deciphered, where its plain copy can be neither replaced nor removed.
-  Failing LockedPlainCopy() const {
-    Failing copy = AtThePlainCopy([&](auto path) { folder.Write(path, Definition(kLines)); });
+  Situation LockedPlainCopy() const {
+    Situation copy = AtThePlainCopy([&](auto path) { folder.Write(path, Definition(kLines)); });
     return Until([copy, rights = Rights(temporary, 0555)]() mutable { rights.reset(); });
   }
 
@@ -102,7 +75,7 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
   const std::string longName = std::string(240, 'n') + ".dat";
   const struct {
     const char* name;
-    std::function<Failing()> begin;
+    std::function<Situation()> begin;
     bool loads;
     std::string path = {};   // instead of the definition
     bool keepsCopy = false;  // what lies in the place of the plain copy stays there
@@ -140,7 +113,7 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
     const std::string& path = situation.path.empty() ? definition : situation.path;
     ASSERT_TRUE(TavrinInitialize(definition.c_str()));
     SetLastErrorAside();
-    Failing failing = situation.begin();
+    Situation failing = situation.begin();
     const bool loaded = TavrinInitialize(path.c_str());
     std::error_code error;
     const auto copy = std::filesystem::symlink_status(plainCopy, error);
@@ -164,7 +137,7 @@ TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
   const std::string content = ReadWhole(definition);
   const struct {
     const char* name;
-    std::function<Failing()> begin;
+    std::function<Situation()> begin;
     std::string path;
     bool opens;
     std::string written = {};  // what the file holds afterwards, if there is one
@@ -187,7 +160,7 @@ TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
     SCOPED_TRACE(situation.name);
     ASSERT_TRUE(TavrinInitialize(definition.c_str()));
     SetLastErrorAside();
-    Failing failing = situation.begin();
+    Situation failing = situation.begin();
     const bool opened = TavrinCreateModelingConditionsFile(situation.path.c_str());
     failing.reset();
     EXPECT_EQ(opened, situation.opens);
@@ -219,7 +192,7 @@ TEST_F(SystemFault, AFullFileSystemHoldsNoPlainCopyAfterwards) {
       mount("tmpfs", temporary.c_str(), "tmpfs", 0, "size=4096") != 0) {
     GTEST_SKIP() << "no file system can be mounted here";
   }
-  const Failing mounted = Until([&] { EXPECT_EQ(umount(temporary.c_str()), 0); });
+  const Situation mounted = Until([&] { EXPECT_EQ(umount(temporary.c_str()), 0); });
   const std::string filler = folder.Write("temporary/filler", std::string(4096, 'x'));
   EXPECT_FALSE(TavrinInitialize(definition.c_str()));
   EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed));
@@ -238,7 +211,7 @@ TEST_F(SystemFault, AFullFileSystemHoldsNoPlainCopyAfterwards) {
 TEST_F(SystemFault, ATruncatedPlainCopyIsReadAsFarAsItGoes) {
   SetLastErrorAside();
   // Whole lines: "[printer]", the version and the model name.
-  Failing failing = FilesEndAt(Definition("ModelName=Mod\xC3\xA8le de table\n").size());
+  Situation failing = FilesEndAt(Definition("ModelName=Mod\xC3\xA8le de table\n").size());
   ASSERT_TRUE(TavrinInitialize(definition.c_str()));
   failing.reset();
   char info[384] = {};

@@ -1,17 +1,11 @@
 #pragma once
 
-#include <cstdlib>
-
 #include "export/ExportTest.h"
 #include "fault/Allocations.h"
 #include "support/Answers.h"
+#include "support/Situation.h"
 
 namespace tavrin::test {
-
-inline long EntriesOf(const std::string& folder) {
-  const std::filesystem::directory_iterator entries(folder);
-  return static_cast<long>(std::distance(begin(entries), end(entries)));
-}
 
 /// Tests of the shared library in a system that fails, with a temporary directory of their own that
 /// must be empty whenever no call runs.
@@ -21,17 +15,12 @@ class SystemFaultTest : public ExportTest {
     ExportTest::SetUp();
     std::filesystem::create_directory(temporary);
     std::filesystem::permissions(temporary, std::filesystem::perms::all);
-    setenv("TMPDIR", temporary.c_str(), 1);
     definition = folder.WriteEnciphered("printer.dat", Definition(kLines));
     // Once before anything is counted: the C and C++ libraries keep what they make first.
     ASSERT_TRUE(TavrinInitialize(definition.c_str()));
     answers = AskEverything();
     TavrinFinalize();
     descriptors = EntriesOf("/proc/self/fd");
-  }
-  void TearDown() override {
-    setenv("TMPDIR", previousDirectory.c_str(), 1);
-    ExportTest::TearDown();
   }
 
   /// Nothing lies about, and what went before does not show in the next use of the library.
@@ -64,8 +53,8 @@ class SystemFaultTest : public ExportTest {
       "NumOfInkType=1\nInkType001Code=9\nInkType001Name=A long ink type\n"
       "PrinterInkSlotNum=1\nColorCodeInkSlot1=1\nInkTypeCodeInkSlot1=9\n";
 
-  const std::string previousDirectory = std::filesystem::temp_directory_path().string();
   const std::string temporary = folder.PathOf("temporary");
+  const Situation temporaryDirectory = Variable("TMPDIR", temporary.c_str());
   std::string definition;
   std::string answers;
   long descriptors = 0;

@@ -37,6 +37,11 @@ std::string ReadWhole(const std::string& path) {
   return content.str();
 }
 
+long EntriesOf(const std::string& path) {
+  const std::filesystem::directory_iterator entries(path);
+  return static_cast<long>(std::distance(begin(entries), end(entries)));
+}
+
 std::string Definition(const std::string& lines) {
   return "[printer]\nVersion=1.0\n" + lines;
 }

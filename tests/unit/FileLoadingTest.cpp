@@ -101,10 +101,7 @@ TEST(Load, WhatCannotBeReadMakesNoPlainCopy) {
        {folder.PathOf("missing.dat"), folder.Write("empty.dat", ""), folder.PathOf("")}) {
     // A file that lies where the copy would be tells whether one was made.
     const std::string copyPath = MakeTemporaryPath(path);
-    std::FILE* file = std::fopen(copyPath.c_str(), "wb");
-    ASSERT_NE(file, nullptr);
-    std::fputs("untouched", file);
-    std::fclose(file);
+    folder.Write(copyPath, "untouched");
     EXPECT_FALSE(PrinterConfig().Load(path)) << path;
     EXPECT_EQ(ReadWhole(copyPath), "untouched") << path;
     std::filesystem::remove(copyPath);

@@ -1,6 +1,4 @@
 // What the file system of this platform can put in a library's way: links, pipes, directories.
-#include <cstdlib>
-
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -9,6 +7,7 @@
 #include "definition/PrinterConfig.h"
 #include "definition/TemporaryPath.h"
 #include "platform/HostPaths.h"
+#include "support/Situation.h"
 #include "support/TestFiles.h"
 
 namespace tavrin {
@@ -83,19 +82,15 @@ TEST(PortableFiles, APipeInThePlaceOfThePlainCopyDoesNotBlock) {
 }
 
 TEST(PortableFiles, TmpdirNamesTheTemporaryDirectory) {
-  const char* chosen = std::getenv("TMPDIR");
-  const std::string previous = chosen != nullptr ? chosen : "";
   const struct {
     const char* value;
     const char* directory;
-  } cases[] = {{"/var/tmp", "/var/tmp/"}, {"/var/tmp/", "/var/tmp/"}, {"", "/tmp/"}};
+  } cases[] = {
+      {"/var/tmp", "/var/tmp/"}, {"/var/tmp/", "/var/tmp/"}, {"", "/tmp/"}, {nullptr, "/tmp/"}};
   for (const auto& c : cases) {
-    setenv("TMPDIR", c.value, 1);
+    const auto chosen = test::Variable("TMPDIR", c.value);
     EXPECT_EQ(platform::GetTempDirectory(), c.directory);
   }
-  unsetenv("TMPDIR");
-  EXPECT_EQ(platform::GetTempDirectory(), "/tmp/");
-  if (!previous.empty()) setenv("TMPDIR", previous.c_str(), 1);
 }
 
 }  // namespace

@@ -1,16 +1,13 @@
 // The profile functions as this library gives them where the platform has none.
-#include <csignal>
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/Profile.h"
+#include "support/Situation.h"
 #include "support/TestFiles.h"
 #include "unit/TestText.h"
 
@@ -26,15 +23,6 @@ using test::TestFolder;
 /// Runs each test where narrow text is UTF-8.
 class PortableProfile : public testing::Test {
  protected:
-  PortableProfile() {
-    if (const char* locale = std::getenv("LC_ALL")) previousLocale_ = locale;
-    setenv("LC_ALL", "C.UTF-8", 1);
-  }
-
-  ~PortableProfile() override {
-    previousLocale_ ? setenv("LC_ALL", previousLocale_->c_str(), 1) : unsetenv("LC_ALL");
-  }
-
   /// Puts content into the file.
   void Put(const std::string& content) { folder_.Write("a.ini", content); }
 
@@ -57,8 +45,8 @@ class PortableProfile : public testing::Test {
   }
 
  private:
-  TestFolder folder_;
-  std::optional<std::string> previousLocale_;
+  const TestFolder folder_;
+  const test::Situation locale_ = test::Variable("LC_ALL", "C.UTF-8");
 };
 
 std::string Utf16(const std::u16string& text) {
@@ -170,17 +158,20 @@ TEST_F(PortableProfile, NamesThatShareAllBitsButOneTakeLinearTime) {
   }
 }
 
-TEST_F(PortableProfile, AFailedFirstWriteLeavesNoFile) {
-  rlimit limit = {};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
-  const rlimit lowered = {4, limit.rlim_max};
-  const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &lowered), 0);
-  const bool isWritten = Write(L"v");
-  setrlimit(RLIMIT_FSIZE, &limit);
-  std::signal(SIGXFSZ, previousHandler);
-  EXPECT_FALSE(isWritten);
+TEST_F(PortableProfile, AWriteThatFailsHalfWayIsTakenBack) {
+  {
+    const auto full = test::FilesEndAt(4);
+    EXPECT_FALSE(Write(L"v"));
+  }
   EXPECT_FALSE(std::filesystem::exists(Path()));
+
+  const std::string content = "[S]\nK=1\n[T]\n" + std::string(5000, 'x') + "\n";
+  Put(content);
+  {
+    const auto full = test::FilesEndAt(content.size() + 10);
+    EXPECT_FALSE(Write(L"a value that makes the file longer than it may be"));
+  }
+  EXPECT_EQ(Content(), content);
 }
 
 TEST_F(PortableProfile, AReaderKeepsTheContentItFound) {
@@ -201,21 +192,6 @@ TEST_F(PortableProfile, PipesAndDevicesAreNeitherReadNorWritten) {
     EXPECT_FALSE(WriteProfileValue(L"S", L"K", L"v", path.c_str()));
     EXPECT_FALSE(WriteProfileValue(L"S", L"K", nullptr, path.c_str()));
   }
-}
-
-TEST_F(PortableProfile, AWriteThatFailsHalfWayIsTakenBack) {
-  const std::string content = "[S]\nK=1\n[T]\n" + std::string(5000, 'x') + "\n";
-  Put(content);
-  rlimit limit = {};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
-  const rlimit lowered = {content.size() + 10, limit.rlim_max};
-  const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &lowered), 0);
-  const bool isWritten = Write(L"a value that makes the file longer than it may be");
-  setrlimit(RLIMIT_FSIZE, &limit);
-  std::signal(SIGXFSZ, previousHandler);
-  EXPECT_FALSE(isWritten);
-  EXPECT_EQ(Content(), content);
 }
 
 TEST_F(PortableProfile, HostileFilesTakeLinearTime) {

@@ -1,11 +1,9 @@
 // How this platform's locale decides the narrow encoding.
-#include <cstdlib>
-#include <optional>
-
 #include <gtest/gtest.h>
 
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
+#include "support/Situation.h"
 #include "support/TestFiles.h"
 
 namespace tavrin {
@@ -13,25 +11,11 @@ namespace {
 
 using test::Definition;
 using test::TestFolder;
-
-/// Runs a test under LC_ALL of its own.
-class LocaleChoice {
- public:
-  explicit LocaleChoice(const char* locale) {
-    if (const char* previous = std::getenv("LC_ALL")) previous_ = previous;
-    setenv("LC_ALL", locale, 1);
-  }
-  ~LocaleChoice() { previous_ ? setenv("LC_ALL", previous_->c_str(), 1) : unsetenv("LC_ALL"); }
-  LocaleChoice(const LocaleChoice&) = delete;
-  LocaleChoice& operator=(const LocaleChoice&) = delete;
-
- private:
-  std::optional<std::string> previous_;
-};
+using test::Variable;
 
 TEST(PortableText, WithoutAUsableLocaleNarrowTextIsUtf8) {
   for (const char* locale : {"C", "POSIX", "xx_YY.NONE", "C.UTF-8"}) {
-    const LocaleChoice choice(locale);
+    const auto choice = Variable("LC_ALL", locale);
     const struct {
       const char* narrow;
       const wchar_t* wide;
@@ -51,7 +35,7 @@ TEST(PortableText, WithoutAUsableLocaleNarrowTextIsUtf8) {
 }
 
 TEST(PortableText, BytesThatAreNoUtf8ComeBackUnchanged) {
-  const LocaleChoice choice("C.UTF-8");
+  const auto choice = Variable("LC_ALL", "C.UTF-8");
   for (const char* path :
        {"caf\xE9.dat", "\x80\xFF", "\xC0\xAF", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80",
         "\xF4\x90\x80\x80", "\xE0\x80\x80", "a\xF0\x9F\x98"}) {
@@ -60,7 +44,7 @@ TEST(PortableText, BytesThatAreNoUtf8ComeBackUnchanged) {
 }
 
 TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
-  const LocaleChoice choice("C.UTF-8");
+  const auto choice = Variable("LC_ALL", "C.UTF-8");
   EXPECT_EQ(WideCopy(std::string("a\0b", 3)), L"a");
   EXPECT_EQ(NarrowCopy(std::wstring(L"a\0b", 3)), "a");
   std::string narrow = "before";
@@ -69,7 +53,7 @@ TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
 }
 
 TEST(PortableText, ADefinitionKeepsWhatTheEncodingCanDecode) {
-  const LocaleChoice choice("C");
+  const auto choice = Variable("LC_ALL", "C");
   const TestFolder folder;
   PrinterConfig config;
   ASSERT_TRUE(config.Load(
