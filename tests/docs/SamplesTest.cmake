@@ -7,27 +7,11 @@
 #   SOURCE    the directory of the project
 #   WORK      a directory of the test's own, emptied first
 cmake_minimum_required(VERSION 3.22)
+set(RUNNER ${EMULATOR})
+include(${CMAKE_CURRENT_LIST_DIR}/../support/Run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 file(COPY ${SOURCE}/examples/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
-# Wine's own remarks would mix with the messages.
-set(ENV{WINEDEBUG} -all)
-
-# Files take the output, because processes that an emulator leaves running would hold a pipe open.
-macro(run)
-  execute_process(COMMAND ${EMULATOR} ${ARGN} WORKING_DIRECTORY ${WORK}
-    RESULT_VARIABLE result OUTPUT_FILE ${WORK}/output ERROR_FILE ${WORK}/message)
-  file(READ ${WORK}/output output)
-  file(READ ${WORK}/message message)
-  string(REPLACE "\r\n" "\n" output "${output}")
-  string(REPLACE "\r\n" "\n" message "${message}")
-endmacro()
-
-function(check what)
-  if(NOT (${ARGN}))
-    message(SEND_ERROR "${what}\nresult: ${result}\noutput: ${output}\nmessage: ${message}")
-  endif()
-endfunction()
 
 foreach(example full-colour compact minimal)
   run(${TOOL} encipher ${example}.ini ${example}.def)

@@ -4,28 +4,12 @@
 #   UTF8     whether the process's encoding is UTF-8
 #   WORK     a directory of the test's own, emptied first
 cmake_minimum_required(VERSION 3.22)
+set(RUNNER ${TOOL})
+include(${CMAKE_CURRENT_LIST_DIR}/../support/Run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/directory)
 file(COPY ${PROJECT}/examples/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
-# Wine's own remarks would mix with the tool's messages.
-set(ENV{WINEDEBUG} -all)
-
-# Files take the output, because processes that an emulator leaves running would hold a pipe open.
-macro(run)
-  execute_process(COMMAND ${TOOL} ${ARGN} WORKING_DIRECTORY ${WORK}
-    RESULT_VARIABLE result OUTPUT_FILE ${WORK}/output ERROR_FILE ${WORK}/message)
-  file(READ ${WORK}/output output)
-  file(READ ${WORK}/message message)
-  string(REPLACE "\r\n" "\n" output "${output}")
-  string(REPLACE "\r\n" "\n" message "${message}")
-endmacro()
-
-function(check what)
-  if(NOT (${ARGN}))
-    message(SEND_ERROR "${what}\nresult: ${result}\noutput: ${output}\nmessage: ${message}")
-  endif()
-endfunction()
 
 macro(succeed)
   run(${ARGN})

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "definition/FileBytes.h"
 #include "definition/FileLoader.h"
 #include "definition/IniFile.h"
 #include "definition/PrinterConfig.h"
@@ -44,13 +43,6 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   EXPECT_TRUE(loader.IsEmpty());
   EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("missing")));
   EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("")));
-}
-
-TEST(FileBytes, AShortFileLeavesTheRestOfTheBlock) {
-  const TestFolder folder;
-  unsigned char block[] = {'1', '2', '3'};
-  EXPECT_TRUE(ReadFileBytes(folder.Write("file", "ab"), block, 3));
-  EXPECT_EQ(std::string(block, block + 3), "ab3");
 }
 
 TEST(TemporaryPath, NameComesFromTheHostAndTheDefinition) {

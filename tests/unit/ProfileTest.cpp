@@ -61,19 +61,6 @@ TEST(Profile, PathsThatAreNoFileReadAsEmptyAndRefuseWrites) {
   }
 }
 
-TEST(Profile, AFreshReaderSeesWhatWasWritten) {
-  const TestFolder folder;
-  const std::wstring path = Wide(folder.PathOf("a.ini"));
-  EXPECT_EQ(Read(path, L"S", L"K"), L"");
-  EXPECT_TRUE(WriteProfileValue(L"S", L"K", L"1", path.c_str()));
-  EXPECT_EQ(Read(path, L"s", L"k"), L"1");
-  EXPECT_TRUE(WriteProfileValue(L"s", L"k", L"2", path.c_str()));
-  EXPECT_EQ(Read(path, L"S", L"K"), L"2");
-  EXPECT_TRUE(WriteProfileValue(L"S", L"K", nullptr, path.c_str()));
-  EXPECT_EQ(Read(path, L"S", L"K"), L"");
-  EXPECT_EQ(ReadWhole(folder.PathOf("a.ini")), "[S]\r\n");
-}
-
 TEST(Profile, CallsThatChangeNothingLeaveTheFileAlone) {
   const TestFolder folder;
   const std::string content = "[S]\n K = 1 \n;c\n\nL=2";
