@@ -7,16 +7,16 @@
 
 namespace tavrin::test {
 
-inline std::uint32_t LastError() {
-  std::uint32_t code = 99;
+inline TavrinErrorCode LastError() {
+  std::uint32_t code = 7;  // within the enumeration, but no code
   EXPECT_TRUE(TavrinGetLastError(&code));
-  return code;
+  return static_cast<TavrinErrorCode>(code);
 }
 
 /// Leaves the last-error code at a value that only TavrinInitialize stores.
 inline void SetLastErrorAside() {
   EXPECT_FALSE(TavrinInitialize(nullptr));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
 }
 
 /// Tests of the shared library with a folder of their own; each starts and ends without a loaded

@@ -46,7 +46,7 @@ TEST_F(InkQueries, WithoutADefinitionEachFails) {
   for (const auto& query : queries) {
     SetLastErrorAside();
     EXPECT_FALSE(query());
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+    EXPECT_EQ(LastError(), ErrorNotInitialized);
   }
   EXPECT_EQ(count, 7u);
   EXPECT_EQ(signedCount, 7);
@@ -74,7 +74,7 @@ TEST_F(InkQueries, ACategoryThatCannotListItsSlotsIsAFailure) {
     std::int32_t* numbers = nullptr;
     std::int32_t count = 7;
     EXPECT_FALSE(TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) << index;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed)) << index;
+    EXPECT_EQ(LastError(), ErrorFailed) << index;
     EXPECT_EQ(count, 7) << index;
   }
 }
@@ -118,9 +118,9 @@ TEST_F(InkQueries, AnUnknownSlotNumberGivesNullAndRecordsNothing) {
     EXPECT_FALSE(TavrinGetInkSlot(number, &slot)) << number;
     EXPECT_EQ(slot, nullptr) << number;
   }
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
   EXPECT_FALSE(TavrinGetInkSlot(1, nullptr));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  EXPECT_EQ(LastError(), ErrorNotInitialized);
 }
 
 }  // namespace

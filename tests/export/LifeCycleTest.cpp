@@ -7,19 +7,19 @@ class LifeCycle : public ExportTest {};
 
 // Runs first: the code is 0 only until something fails.
 TEST(BeforeAnyFailure, TheLastErrorIsZero) {
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNone));
+  EXPECT_EQ(LastError(), ErrorNone);
   EXPECT_TRUE(TavrinFinalize());
   const TestFolder folder;
   EXPECT_TRUE(TavrinInitialize(folder.WriteEnciphered("printer.dat", Definition("")).c_str()));
   EXPECT_TRUE(TavrinFinalize());
   EXPECT_TRUE(TavrinFinalize());
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNone));
+  EXPECT_EQ(LastError(), ErrorNone);
 }
 
 TEST_F(LifeCycle, ANullPathKeepsTheLoadedDefinition) {
   ASSERT_TRUE(InitializeDefinition("PrintMargin=1\n"));
   EXPECT_FALSE(TavrinInitialize(nullptr));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
   std::uint32_t margin = 0;
   EXPECT_TRUE(TavrinGetAreaMarginSize(&margin));
   EXPECT_EQ(margin, 1000u);
@@ -38,10 +38,10 @@ TEST_F(LifeCycle, AFailedInitialisationLeavesNoDefinition) {
     ASSERT_TRUE(InitializeDefinition(""));
     SetLastErrorAside();
     EXPECT_FALSE(TavrinInitialize(path.c_str())) << path;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed)) << path;
+    EXPECT_EQ(LastError(), ErrorFailed) << path;
     std::uint32_t margin = 77;
     EXPECT_FALSE(TavrinGetAreaMarginSize(&margin)) << path;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized)) << path;
+    EXPECT_EQ(LastError(), ErrorNotInitialized) << path;
     EXPECT_EQ(margin, 77u) << path;
   }
 }
@@ -54,7 +54,7 @@ TEST_F(LifeCycle, SuccessKeepsTheLastErrorAndReplacesTheDefinition) {
   EXPECT_TRUE(TavrinGetAreaMarginSize(&margin));
   EXPECT_EQ(margin, 2000u);
   EXPECT_TRUE(TavrinFinalize());
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
 }
 
 }  // namespace

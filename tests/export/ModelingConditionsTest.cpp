@@ -15,7 +15,7 @@ std::string EveryByte() {
 TEST_F(ModelingConditions, WithoutADefinitionNothingIsWritten) {
   const std::string path = folder.PathOf("conditions.dat");
   EXPECT_FALSE(TavrinCreateModelingConditionsFile(path.c_str()));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  EXPECT_EQ(LastError(), ErrorNotInitialized);
   EXPECT_FALSE(std::filesystem::exists(path));
 }
 
@@ -52,16 +52,16 @@ TEST_F(ModelingConditions, AWrittenFileLoadsAsADefinition) {
 TEST_F(ModelingConditions, BadPathsFailAndSuccessKeepsTheCode) {
   ASSERT_TRUE(InitializeDefinition(""));
   EXPECT_FALSE(TavrinCreateModelingConditionsFile(nullptr));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+  EXPECT_EQ(LastError(), ErrorNotInitialized);
   for (const std::string& path :
        {std::string(), folder.PathOf("no folder/conditions.dat"), folder.PathOf("")}) {
     SetLastErrorAside();
     EXPECT_FALSE(TavrinCreateModelingConditionsFile(path.c_str())) << path;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorWriteFailed)) << path;
+    EXPECT_EQ(LastError(), ErrorWriteFailed) << path;
   }
   EXPECT_FALSE(std::filesystem::exists(folder.PathOf("no folder")));
   EXPECT_TRUE(TavrinCreateModelingConditionsFile(folder.PathOf("conditions.dat").c_str()));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorWriteFailed));
+  EXPECT_EQ(LastError(), ErrorWriteFailed);
 }
 
 }  // namespace

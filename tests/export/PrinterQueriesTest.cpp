@@ -52,7 +52,7 @@ void ExpectScalars(const std::vector<double>& expected) {
 TEST_F(PrinterQueries, WithoutADefinitionEachFailsAndWritesNothing) {
   const auto expectFailure = [](const char* name, bool succeeded) {
     EXPECT_FALSE(succeeded) << name;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized)) << name;
+    EXPECT_EQ(LastError(), ErrorNotInitialized) << name;
     SetLastErrorAside();
   };
   SetLastErrorAside();
@@ -140,8 +140,7 @@ TEST_F(PrinterQueries, ModesAnswerByIndex) {
     EXPECT_FALSE(TavrinGetModeConfig(index, mode)) << index;
     EXPECT_FALSE(TavrinGetWarpWarning(index, &limited)) << index;
   }
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument))
-      << "a missing mode records nothing";
+  EXPECT_EQ(LastError(), ErrorInvalidArgument) << "a missing mode records nothing";
 }
 
 TEST_F(PrinterQueries, LayersCountInTheHeightAs32Bits) {
@@ -192,7 +191,7 @@ TEST_F(PrinterQueries, InfoRefusesLongTextsAndKeepsTheFieldsBefore) {
     char info[384];
     std::fill(std::begin(info), std::end(info), '#');
     EXPECT_FALSE(TavrinGetInfo(info)) << c.lines;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed)) << c.lines;
+    EXPECT_EQ(LastError(), ErrorFailed) << c.lines;
     for (int field = 0; field < 3; ++field) {
       EXPECT_EQ(info[128 * field] != '#', field < c.fieldsWritten) << c.lines << field;
     }
@@ -200,7 +199,7 @@ TEST_F(PrinterQueries, InfoRefusesLongTextsAndKeepsTheFieldsBefore) {
   ASSERT_TRUE(InitializeDefinition(""));
   SetLastErrorAside();
   EXPECT_FALSE(TavrinGetInfo(nullptr));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed));
+  EXPECT_EQ(LastError(), ErrorFailed);
 }
 
 TEST_F(PrinterQueries, SideSupportGoesOutModulo32) {

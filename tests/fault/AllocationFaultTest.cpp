@@ -51,7 +51,7 @@ TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothing) {
           TavrinFinalize();
         } else {
           const auto code = result == Result::Threw ? ErrorInvalidArgument : ErrorFailed;
-          EXPECT_EQ(LastError(), static_cast<std::uint32_t>(code));
+          EXPECT_EQ(LastError(), code);
           ExpectNoDefinition();
         }
         EXPECT_EQ(Allocations::Live(), before);
@@ -76,7 +76,7 @@ TEST_F(AllocationFault, AConditionsFileIsWrittenWholeOrNotTouched) {
         [&](Result result) {
           EXPECT_EQ(Allocations::Live(), before);
           EXPECT_NE(result, Result::False);
-          EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorInvalidArgument));
+          EXPECT_EQ(LastError(), ErrorInvalidArgument);
           const bool written = result == Result::True;
           EXPECT_EQ(ReadWhole(path), written ? ReadWhole(definition) : untouched);
           EXPECT_EQ(std::filesystem::exists(path), written || path == older);

@@ -120,7 +120,7 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
     failing.reset();
     EXPECT_EQ(loaded, situation.loads);
     EXPECT_EQ(std::filesystem::exists(copy), situation.keepsCopy);
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(loaded ? ErrorInvalidArgument : ErrorFailed));
+    EXPECT_EQ(LastError(), loaded ? ErrorInvalidArgument : ErrorFailed);
     if (loaded) {
       EXPECT_EQ(AskEverything(), answers);
       TavrinFinalize();
@@ -165,7 +165,7 @@ TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
     failing.reset();
     EXPECT_EQ(opened, situation.opens);
     const auto code = opened ? ErrorInvalidArgument : ErrorWriteFailed;
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(code));
+    EXPECT_EQ(LastError(), code);
     EXPECT_EQ(situation.path == kFullDevice ? "" : ReadWhole(situation.path), situation.written);
     EXPECT_EQ(AskEverything(), answers) << "the definition stays loaded";
     EXPECT_EQ(std::filesystem::remove(fresh), opened && situation.path != kFullDevice);
@@ -195,7 +195,7 @@ TEST_F(SystemFault, AFullFileSystemHoldsNoPlainCopyAfterwards) {
   const Situation mounted = Until([&] { EXPECT_EQ(umount(temporary.c_str()), 0); });
   const std::string filler = folder.Write("temporary/filler", std::string(4096, 'x'));
   EXPECT_FALSE(TavrinInitialize(definition.c_str()));
-  EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorFailed));
+  EXPECT_EQ(LastError(), ErrorFailed);
   ExpectNoDefinition();
   EXPECT_EQ(EntriesOf(temporary), 1);
 

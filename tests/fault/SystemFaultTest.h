@@ -37,7 +37,7 @@ class SystemFaultTest : public ExportTest {
     std::uint32_t margin = 77;
     EXPECT_FALSE(TavrinGetAreaMarginSize(&margin));
     EXPECT_EQ(margin, 77u);
-    EXPECT_EQ(LastError(), static_cast<std::uint32_t>(ErrorNotInitialized));
+    EXPECT_EQ(LastError(), ErrorNotInitialized);
   }
 
   // Every kind of key, none with its default, and a name that ASCII lacks.
