@@ -72,13 +72,6 @@ TEST(PrinterConfig, TextsComeAsWritten) {
   EXPECT_EQ(config->Version, "1.0") << "the first key of a name counts";
 }
 
-TEST(PrinterConfig, Utf16DefinitionsWithAMarkAreRead) {
-  std::string content = "\xFF\xFE";
-  for (const char c : Definition("PrintMargin=2\n"))
-    content += {c, '\0'};
-  EXPECT_EQ(Parsed(content)->PrintMargin, 2000);
-}
-
 TEST(PrinterConfig, NumbersFollowTheirSyntax) {
   constexpr std::int32_t kOverflow = -2147483647 - 1;
   const auto margin = [](const PrinterConfig& c) -> double { return c.PrintMargin; };
