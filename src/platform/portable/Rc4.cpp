@@ -22,14 +22,14 @@ class Keystream {
     }
   }
 
-  std::uint64_t Next() {
+  unsigned char Next() {
     i_ = (i_ + 1) % kStates;
     const std::uint32_t a = s_[i_];
     j_ = (j_ + a) % kStates;
     const std::uint32_t b = s_[j_];
     s_[i_] = b;
     s_[j_] = a;
-    return s_[(a + b) % kStates];
+    return static_cast<unsigned char>(s_[(a + b) % kStates]);
   }
 
  private:
@@ -42,25 +42,18 @@ class Keystream {
 }  // namespace
 
 void ApplyRc4(const Rc4Key& key, unsigned char* block, std::size_t n) {
-  constexpr std::size_t kWord = 8;
   Keystream keystream(key);
-  std::size_t at = 0;
-  // Gathering a word at a time keeps the bytes of block, which may alias anything, out of the
+  // A piece of keystream at a time keeps the bytes of block, which may alias anything, out of the
   // cipher's inner steps: nearly twice the throughput.
-  for (; n - at >= kWord; at += kWord) {
-    std::uint64_t stream = 0;
-    std::uint64_t text = 0;
-    for (std::size_t i = 0; i < kWord; ++i) {
-      stream |= keystream.Next() << 8 * i;
-      text |= std::uint64_t{block[at + i]} << 8 * i;
-    }
-    const std::uint64_t result = stream ^ text;
-    for (std::size_t i = 0; i < kWord; ++i) {
-      block[at + i] = static_cast<unsigned char>(result >> 8 * i);
-    }
+  std::array<unsigned char, 64> stream;
+  for (std::size_t at = 0; at < n;) {
+    const std::size_t size = std::min(stream.size(), n - at);
+    for (std::size_t i = 0; i < size; ++i)
+      stream[i] = keystream.Next();
+    for (std::size_t i = 0; i < size; ++i)
+      block[at + i] ^= stream[i];
+    at += size;
   }
-  for (; at < n; ++at)
-    block[at] ^= static_cast<unsigned char>(keystream.Next());
 }
 
 }  // namespace tavrin::platform
