@@ -14,20 +14,13 @@ namespace {
 
 /// White space as Windows has it. Other runtimes have their own, that of MinGW two kinds.
 bool IsSpace(wchar_t c) {
-  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0xA0 || c == 0x1680 ||
+  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
          (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F ||
          c == 0x3000;
 }
 
 bool IsAscii(wchar_t c) {
   return static_cast<char32_t>(c) < 0x80;
-}
-
-/// What a number's characters can be among, at the start of text. Narrow, because the conversions
-/// of the runtimes agree on narrow ASCII.
-std::string NumberText(const std::wstring& text) {
-  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
-  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
 /// WideCopy, but that an exhausted memory must not make a number look like none.
@@ -37,8 +30,22 @@ std::wstring Widened(const std::string& text) {
   return wide;
 }
 
-template <typename Value, typename Convert>
-bool Parse(const std::wstring& text, Value* value, Convert convert) {
+/// What a number's characters can be among, at the start of text. Narrow, because the conversions
+/// of the runtimes agree on narrow ASCII.
+std::string NumberText(const std::wstring& text) {
+  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
+  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
+}
+
+std::string NumberText(const std::string& text) {
+  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
+  // Only its encoding tells whether white space beyond ASCII stands in front.
+  if (begin != text.end() && !IsAscii(*begin)) return NumberText(Widened(text));
+  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
+}
+
+template <typename Text, typename Value, typename Convert>
+bool Parse(const Text& text, Value* value, Convert convert) {
   try {
     *value = convert(NumberText(text));
     return true;
@@ -47,6 +54,10 @@ bool Parse(const std::wstring& text, Value* value, Convert convert) {
   } catch (const std::out_of_range&) {
     return false;
   }
+}
+
+int ToInt(const std::string& digits) {
+  return std::stoi(digits);
 }
 
 /// Sign and payload of a NaN differ from runtime to runtime.
@@ -58,15 +69,15 @@ double ToDouble(const std::string& digits) {
 }  // namespace
 
 bool ParseInt(const std::string& text, std::int32_t* value) {
-  return ParseInt(Widened(text), value);
+  return Parse(text, value, ToInt);
 }
 
 bool ParseInt(const std::wstring& text, std::int32_t* value) {
-  return Parse(text, value, [](const std::string& digits) { return std::stoi(digits); });
+  return Parse(text, value, ToInt);
 }
 
 bool ParseDouble(const std::string& text, double* value) {
-  return ParseDouble(Widened(text), value);
+  return Parse(text, value, ToDouble);
 }
 
 bool ParseDouble(const std::wstring& text, double* value) {

@@ -75,7 +75,7 @@ TEST(ValueConversion, DoublesConvertUpToTheFirstOtherCharacter) {
 // What the C runtimes differ in: their white space, the edges of a double's range in wide text, and
 // the bits of a NaN.
 TEST(ValueConversion, NumbersAreTheSameOnEveryPlatform) {
-  for (const wchar_t* text : {L"\u00A042", L" \u2007\u202F42", L"\u300042\u2603"}) {
+  for (const wchar_t* text : {L"\u00A042", L" \u2007\u202F42", L"\u0085\u300042\u2603"}) {
     std::int32_t integer = kUntouched;
     double number = -77.0;
     EXPECT_TRUE(ParseInt(text, &integer) && ParseDouble(text, &number));
