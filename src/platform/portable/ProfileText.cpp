@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/portable/Ascii.h"
+
 namespace tavrin::platform {
 
 namespace {
@@ -15,15 +17,6 @@ constexpr char32_t kSurrogatesPerHalf = 0x400;
 
 wchar_t Fold(wchar_t c) {
   return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
-}
-
-/// Looks at every character, as that is quicker than stopping at the first that decides.
-template <typename Text>
-bool IsAscii(const Text& text) {
-  std::uint32_t bits = 0;
-  for (const auto c : text)
-    bits |= static_cast<std::uint32_t>(c);
-  return bits < 0x80;
 }
 
 bool IsAstral(wchar_t c) {
@@ -108,8 +101,7 @@ void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
 
 void NarrowEncoding::AppendUnits(std::wstring_view wide, std::string* text) {
   if (IsAscii(wide)) {
-    for (const wchar_t c : wide)
-      text->push_back(static_cast<char>(c));
+    text->append(wide.begin(), wide.end());
   } else {
     Codec().AppendNarrow(wide, text);
   }

@@ -1,30 +1,14 @@
 #include "platform/TextEncoding.h"
 
-#include <algorithm>
+#include <string_view>
 #include <utility>
 
+#include "platform/portable/Ascii.h"
 #include "platform/portable/LocaleCodec.h"
 
 namespace tavrin::platform {
 
 namespace {
-
-/// Copies text, up to its first NUL, if it is ASCII throughout. Every encoding that a locale can
-/// name has ASCII in its place, so plain names and numbers, nearly all there is, need no codec.
-template <typename From, typename To>
-bool CopyAscii(const From& text, To* copy) {
-  using Unit = typename From::value_type;
-  const auto ends = [](Unit c) { return c <= 0 || c >= 0x80; };
-  const auto end = std::find_if(text.begin(), text.end(), ends);
-  if (end != text.end() && *end != Unit{}) return false;
-  *copy = To(text.begin(), end);
-  return true;
-}
-
-template <typename Text>
-Text UpToNul(const Text& text) {
-  return text.substr(0, text.find(typename Text::value_type{}));
-}
 
 /// Runs a conversion, whose only failure is an exhausted memory.
 template <typename Convert>
@@ -41,18 +25,26 @@ bool Succeeds(Convert convert) {
 
 bool ToNarrow(const std::wstring& wide, std::string* narrow) {
   return Succeeds([&] {
-    if (CopyAscii(wide, narrow)) return;
+    const std::wstring_view text = wide.c_str();
+    if (IsAscii(text)) {
+      *narrow = std::string(text.begin(), text.end());
+      return;
+    }
     std::string encoded;
-    if (!LocaleCodec().AppendNarrow(UpToNul(wide), &encoded)) encoded.clear();
+    if (!LocaleCodec().AppendNarrow(text, &encoded)) encoded.clear();
     *narrow = std::move(encoded);
   });
 }
 
 bool ToWide(const std::string& narrow, std::wstring* wide) {
   return Succeeds([&] {
-    if (CopyAscii(narrow, wide)) return;
+    const std::string_view text = narrow.c_str();
+    if (IsAscii(text)) {
+      *wide = std::wstring(text.begin(), text.end());
+      return;
+    }
     std::wstring decoded;
-    LocaleCodec().AppendWide(UpToNul(narrow), LocaleCodec::Undecodable::Escape, &decoded);
+    LocaleCodec().AppendWide(text, LocaleCodec::Undecodable::Escape, &decoded);
     *wide = std::move(decoded);
   });
 }
