@@ -53,16 +53,16 @@ bool IniFile::ReadString(const std::wstring& section, const std::wstring& key,
 }
 
 bool IniFile::ReadInt(const std::string& section, const std::string& key, std::int32_t* value) {
-  return ReadInt(WideName(section), WideName(key), value);
+  return ReadInt(WideSection(section), WideName(key), value);
 }
 
 bool IniFile::ReadDouble(const std::string& section, const std::string& key, double* value) {
-  return ReadDouble(WideName(section), WideName(key), value);
+  return ReadDouble(WideSection(section), WideName(key), value);
 }
 
 bool IniFile::ReadString(const std::string& section, const std::string& key, std::string* value) {
   std::wstring wide;
-  if (!ReadString(WideName(section), WideName(key), &wide)) return false;
+  if (!ReadString(WideSection(section), WideName(key), &wide)) return false;
   if (!ToNarrow(wide, value)) throw std::bad_alloc();
   return true;
 }
@@ -87,6 +87,14 @@ std::vector<std::wstring> IniFile::ListKeys(const std::wstring& section) {
 
 std::vector<std::wstring> IniFile::ListKeys(const std::string& section) {
   return ListKeys(WideName(section));
+}
+
+const std::wstring& IniFile::WideSection(const std::string& section) {
+  if (section != section_) {
+    wideSection_ = WideName(section);
+    section_ = section;
+  }
+  return wideSection_;
 }
 
 bool IniFile::ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,

@@ -67,6 +67,13 @@ class IniFile {
   /// What the wide ReadString does, on an opened reader.
   static bool ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,
                           const std::wstring& key, std::wstring* value);
+
+ private:
+  /// The wide name of section, kept for the reads that follow: a definition has one section.
+  const std::wstring& WideSection(const std::string& section);
+
+  std::string section_;
+  std::wstring wideSection_;
 };
 
 /// True when path names an existing entry of the file system, of whatever kind.

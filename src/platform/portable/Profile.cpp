@@ -194,6 +194,7 @@ class ProfileReader::Source {
   void FillSlots();
   std::size_t SlotOf(std::uint64_t hash, std::size_t owner, std::wstring_view name) const;
   std::size_t NumberOf(std::size_t owner, std::wstring_view name) const;
+  std::size_t SectionNumberOf(std::wstring_view name) const;
 
   std::wstring text_;
   /// Where the text lies differs from process to process: no file can aim at equal hashes.
@@ -210,14 +211,14 @@ ProfileReader::Source::Source(std::wstring text)
 
 std::wstring_view ProfileReader::Source::Find(std::wstring_view section,
                                               std::wstring_view key) const {
-  const std::size_t owner = NumberOf(0, section);
+  const std::size_t owner = SectionNumberOf(section);
   const std::size_t number = owner == 0 ? 0 : NumberOf(owner, key);
   return number == 0 ? std::wstring_view() : entries_[number - 1].value;
 }
 
 std::vector<std::wstring> ProfileReader::Source::ListKeys(std::wstring_view section) const {
   std::vector<std::wstring> keys;
-  const std::size_t owner = NumberOf(0, section);
+  const std::size_t owner = SectionNumberOf(section);
   // The keys of a section follow its header directly.
   for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner; ++i)
     keys.emplace_back(entries_[i].name);
@@ -271,6 +272,12 @@ std::size_t ProfileReader::Source::SlotOf(std::uint64_t hash, std::size_t owner,
 
 std::size_t ProfileReader::Source::NumberOf(std::size_t owner, std::wstring_view name) const {
   return slots_[SlotOf(HashName(name, seed_ + owner), owner, name)];
+}
+
+std::size_t ProfileReader::Source::SectionNumberOf(std::wstring_view name) const {
+  // A definition has one section, so the first entry, a header, nearly always is the one.
+  const bool isFirst = !entries_.empty() && SameName(entries_.front().name, name);
+  return isFirst ? 1 : NumberOf(0, name);
 }
 
 ProfileReader::ProfileReader(const std::wstring& path) {
