@@ -1,10 +1,12 @@
 #include "definition/ValueConversion.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <new>
 #include <stdexcept>
+#include <system_error>
 
 #include "definition/TextConversion.h"
 
@@ -38,16 +40,27 @@ std::string NumberText(const std::wstring& text) {
 }
 
 std::string NumberText(const std::string& text) {
-  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
+  const auto isSpace = [](char c) { return IsAscii(c) && IsSpace(c); };
+  const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
   // Only its encoding tells whether white space beyond ASCII stands in front.
   if (begin != text.end() && !IsAscii(*begin)) return NumberText(Widened(text));
   return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
-template <typename Text, typename Value, typename Convert>
-bool Parse(const Text& text, Value* value, Convert convert) {
+template <typename Text>
+bool ParseIntOf(const Text& text, std::int32_t* value) {
+  const std::string number = NumberText(text);
+  const char* first = number.c_str();
+  if (first[0] == '+' && first[1] != '-') ++first;  // a sign that from_chars does not take
+  return std::from_chars(first, number.data() + number.size(), *value).ec == std::errc();
+}
+
+template <typename Text>
+bool ParseDoubleOf(const Text& text, double* value) {
   try {
-    *value = convert(NumberText(text));
+    const double number = std::stod(NumberText(text));
+    // Sign and payload of a NaN differ from runtime to runtime.
+    *value = std::isnan(number) ? std::numeric_limits<double>::quiet_NaN() : number;
     return true;
   } catch (const std::invalid_argument&) {
     return false;
@@ -56,32 +69,22 @@ bool Parse(const Text& text, Value* value, Convert convert) {
   }
 }
 
-int ToInt(const std::string& digits) {
-  return std::stoi(digits);
-}
-
-/// Sign and payload of a NaN differ from runtime to runtime.
-double ToDouble(const std::string& digits) {
-  const double value = std::stod(digits);
-  return std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value;
-}
-
 }  // namespace
 
 bool ParseInt(const std::string& text, std::int32_t* value) {
-  return Parse(text, value, ToInt);
+  return ParseIntOf(text, value);
 }
 
 bool ParseInt(const std::wstring& text, std::int32_t* value) {
-  return Parse(text, value, ToInt);
+  return ParseIntOf(text, value);
 }
 
 bool ParseDouble(const std::string& text, double* value) {
-  return Parse(text, value, ToDouble);
+  return ParseDoubleOf(text, value);
 }
 
 bool ParseDouble(const std::wstring& text, double* value) {
-  return Parse(text, value, ToDouble);
+  return ParseDoubleOf(text, value);
 }
 
 std::string IntToString(std::int32_t value) {
@@ -90,6 +93,7 @@ std::string IntToString(std::int32_t value) {
 
 bool Split(const std::string& text, std::vector<std::string>* fields) {
   fields->clear();
+  fields->reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ',')));
   for (std::size_t begin = 0; begin < text.size();) {
     const std::size_t comma = std::min(text.find(',', begin), text.size());
     fields->push_back(text.substr(begin, comma - begin));

@@ -39,6 +39,8 @@ TEST(ValueConversion, IntegersConvertUpToTheFirstOtherCharacter) {
       {"99999999999999999999999999", false, kUntouched},
       {"abc", false, kUntouched},
       {"-", false, kUntouched},
+      {"+-7", false, kUntouched},
+      {"++7", false, kUntouched},
       {" ", false, kUntouched},
       {"", false, kUntouched},
   };
