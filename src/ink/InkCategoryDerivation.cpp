@@ -28,6 +28,7 @@ std::uint64_t InkOf(const NumberedInkSlot& slot) {
 
 bool InkModel::GroupInkSlots(std::vector<SlotGroup>* groups) const {
   groups->clear();
+  groups->reserve(InkSlots.size());
   std::map<std::uint64_t, std::size_t> groupOfInk;
   for (const auto& slot : InkSlots) {
     const auto [entry, isNew] = groupOfInk.emplace(InkOf(*slot), groups->size());

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "ink/IdentifiableData.h"
 
@@ -21,10 +20,10 @@ class InkTable {
   const IdentifiableData* Find(std::int32_t code) const;
 
   std::size_t size() const { return entries_.size(); }
-  const IdentifiableData& operator[](std::size_t index) const { return *entries_[index]; }
+  const IdentifiableData& operator[](std::size_t index) const { return entries_[index]; }
 
  private:
-  std::vector<std::unique_ptr<IdentifiableData>> entries_;
+  std::deque<IdentifiableData> entries_;  // which stay where they are as others follow
   std::map<std::int32_t, const IdentifiableData*> byCode_;
 };
 
