@@ -1,41 +1,18 @@
 #include "definition/FileBytes.h"
 
 #include <fstream>
-#include <memory>
 
 #include "platform/Files.h"
 
 namespace tavrin {
 
-namespace {
-
-struct Closer {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-using File = std::unique_ptr<std::FILE, Closer>;
-
-/// One transfer moves all there is, so that a buffer in between would only cost.
-void TransferDirectly(const File& file) {
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);
-}
-
-}  // namespace
-
 std::uint32_t FileSizeOf(const std::string& path) {
   std::uint64_t size = 0;
-  const File file(platform::OpenRegularFile(path, &size));
-  return file == nullptr ? 0 : static_cast<std::uint32_t>(size);
+  return platform::GetRegularFileSize(path, &size) ? static_cast<std::uint32_t>(size) : 0;
 }
 
 bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t n) {
-  if (block == nullptr || n == 0) return false;
-  std::uint64_t size = 0;
-  const File file(platform::OpenRegularFile(path, &size));
-  if (file == nullptr) return false;
-  TransferDirectly(file);
-  static_cast<void>(std::fread(block, 1, n, file.get()));
-  return true;
+  return block != nullptr && n != 0 && platform::ReadRegularFile(path, block, n);
 }
 
 bool WriteFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
@@ -55,12 +32,7 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
 }
 
 bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
-  if (block == nullptr || n == 0) return false;
-  const File file(CreateOwnerOnlyFile(path));
-  if (file == nullptr) return false;
-  TransferDirectly(file);
-  std::fwrite(block, 1, n, file.get());
-  return true;
+  return block != nullptr && n != 0 && platform::WriteOwnerOnlyFile(path, block, n);
 }
 
 }  // namespace tavrin

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "definition/FileBytes.h"
 #include "definition/FileLoader.h"
 #include "definition/IniFile.h"
 #include "definition/PrinterConfig.h"
@@ -38,6 +39,10 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   EXPECT_EQ(std::string(loader.Data(), loader.Data() + loader.Size()), content);
   ASSERT_TRUE(loader.SaveToFile(folder.Write("copy", "a longer file that is replaced")));
   EXPECT_EQ(ReadWhole(folder.PathOf("copy")), content);
+
+  unsigned char block[] = {'1', '2', '3'};
+  EXPECT_TRUE(ReadFileBytes(folder.Write("short", "ab"), block, 3));
+  EXPECT_EQ(std::string(block, block + 3), "ab3");
 
   EXPECT_FALSE(loader.LoadFromFile(folder.Write("empty", "")));
   EXPECT_TRUE(loader.IsEmpty());

@@ -6,35 +6,16 @@
 #include <string_view>
 #include <utility>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/TextEncoding.h"
+#include "platform/portable/Descriptor.h"
+#include "platform/portable/ProfileIndex.h"
 #include "platform/portable/ProfileText.h"
 
 namespace tavrin::platform {
 
 namespace {
-
-/// A pipe or device behind the path is to be seen without waiting for it.
-constexpr int kOpenFlags = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-
-class Descriptor {
- public:
-  Descriptor(const std::string& path, int flags) : value_(open(path.c_str(), flags, 0666)) {}
-  ~Descriptor() {
-    if (value_ >= 0) close(value_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-
-  int Get() const { return value_; }
-  bool Close() { return close(std::exchange(value_, -1)) == 0; }
-
- private:
-  int value_;
-};
 
 std::string NarrowPath(const std::wstring& path) {
   std::string narrow;
@@ -46,36 +27,15 @@ std::string NarrowPath(const std::wstring& path) {
 ///
 /// @return 0 or the error number; bytes is then empty.
 int ReadFile(const std::string& path, std::string* bytes) {
-  const Descriptor file(path, O_RDONLY | kOpenFlags);
-  struct stat status = {};
-  if (file.Get() < 0 || fstat(file.Get(), &status) != 0) return errno;
-  if (!S_ISREG(status.st_mode)) return EINVAL;
-  if (static_cast<std::uintmax_t>(status.st_size) > bytes->max_size()) throw std::bad_alloc();
-  bytes->resize(static_cast<std::size_t>(status.st_size));
+  std::uint64_t size = 0;
+  const Descriptor file = OpenRegularFile(path, &size);
+  if (!file.IsOpen()) return errno;
+  if (size > bytes->max_size()) throw std::bad_alloc();
+  bytes->resize(static_cast<std::size_t>(size));
   std::size_t length = 0;
-  while (length < bytes->size()) {
-    const ssize_t n = read(file.Get(), bytes->data() + length, bytes->size() - length);
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) {
-      bytes->clear();
-      return errno;
-    }
-    if (n == 0) break;
-    length += static_cast<std::size_t>(n);
-  }
-  bytes->resize(length);
-  return 0;
-}
-
-bool WriteAt(int file, std::string_view bytes, std::size_t offset) {
-  while (!bytes.empty()) {
-    const ssize_t n = pwrite(file, bytes.data(), bytes.size(), static_cast<off_t>(offset));
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(n));
-    offset += static_cast<std::size_t>(n);
-  }
-  return true;
+  const int error = ReadUpTo(file, bytes->data(), bytes->size(), &length) ? 0 : errno;
+  bytes->resize(error == 0 ? length : 0);
+  return error;
 }
 
 /// Turns the content of the file at path from before into after. A write that fails half-way, for
@@ -84,13 +44,13 @@ bool UpdateFile(const std::string& path, std::string_view before, std::string_vi
   if (before == after) return true;
   struct stat status = {};
   const bool isNew = stat(path.c_str(), &status) != 0;
-  Descriptor file(path, O_WRONLY | O_CREAT | kOpenFlags);
-  if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | kOpenFlags, 0666));
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   const auto kept = static_cast<std::size_t>(
       std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
       before.begin());
   const auto put = [&](std::string_view content) {
-    return WriteAt(file.Get(), content.substr(kept), kept) &&
+    return WriteAt(file, content.substr(kept), kept) &&
            ftruncate(file.Get(), static_cast<off_t>(content.size())) == 0;
   };
   if (put(after)) return file.Close();
@@ -168,117 +128,10 @@ std::string Edit(const std::string& bytes, std::wstring_view section, std::wstri
 
 }  // namespace
 
-/// The sections and keys of a text, found by hash. Of equal names the first counts.
-class ProfileReader::Source {
+class ProfileReader::Source : public ProfileIndex {
  public:
-  explicit Source(std::wstring text);
-  Source(const Source&) = delete;
-  Source& operator=(const Source&) = delete;
-
-  /// @return the value, empty also when there is no such key.
-  std::wstring_view Find(std::wstring_view section, std::wstring_view key) const;
-
-  std::vector<std::wstring> ListKeys(std::wstring_view section) const;
-
- private:
-  /// Entries are numbered from 1; 0 stands for none, and for the owner of the sections.
-  struct Entry {
-    std::uint64_t hash;
-    std::size_t owner;  ///< the number of a key's section
-    std::wstring_view name;
-    std::wstring_view value;
-  };
-
-  void Add(std::size_t owner, std::wstring_view name, std::wstring_view value);
-  void AddLines();
-  void FillSlots();
-  std::size_t SlotOf(std::uint64_t hash, std::size_t owner, std::wstring_view name) const;
-  std::size_t NumberOf(std::size_t owner, std::wstring_view name) const;
-  std::size_t SectionNumberOf(std::wstring_view name) const;
-
-  std::wstring text_;
-  /// Where the text lies differs from process to process: no file can aim at equal hashes.
-  std::uint64_t seed_;
-  std::vector<Entry> entries_;
-  std::vector<std::size_t> slots_;  ///< of entry numbers; a power of two, at most half of it taken
+  using ProfileIndex::ProfileIndex;
 };
-
-ProfileReader::Source::Source(std::wstring text)
-    : text_(std::move(text)), seed_(reinterpret_cast<std::uintptr_t>(text_.data())) {
-  AddLines();
-  FillSlots();
-}
-
-std::wstring_view ProfileReader::Source::Find(std::wstring_view section,
-                                              std::wstring_view key) const {
-  const std::size_t owner = SectionNumberOf(section);
-  const std::size_t number = owner == 0 ? 0 : NumberOf(owner, key);
-  return number == 0 ? std::wstring_view() : entries_[number - 1].value;
-}
-
-std::vector<std::wstring> ProfileReader::Source::ListKeys(std::wstring_view section) const {
-  std::vector<std::wstring> keys;
-  const std::size_t owner = SectionNumberOf(section);
-  // The keys of a section follow its header directly.
-  for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner; ++i)
-    keys.emplace_back(entries_[i].name);
-  return keys;
-}
-
-void ProfileReader::Source::Add(std::size_t owner, std::wstring_view name,
-                                std::wstring_view value) {
-  entries_.push_back({HashName(name, seed_ + owner), owner, name, value});
-}
-
-void ProfileReader::Source::AddLines() {
-  entries_.reserve(text_.size() / 32);  // the lines of a definition are shorter than that
-  std::size_t section = 0;
-  std::wstring_view rest = text_;
-  while (!rest.empty()) {
-    const ProfileLine line = ParseLine(TakeLine(&rest));
-    if (line.kind == ProfileLine::Kind::Header) {
-      Add(0, line.name, {});
-      section = entries_.size();
-    } else if (line.IsKey() && section != 0) {
-      Add(section, line.name, ReadableValue(line.value));
-    }
-  }
-}
-
-void ProfileReader::Source::FillSlots() {
-  std::size_t size = 2;
-  while (size < 2 * entries_.size())
-    size *= 2;
-  slots_.resize(size);
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const Entry& entry = entries_[i];
-    std::size_t& number = slots_[SlotOf(entry.hash, entry.owner, entry.name)];
-    if (number == 0) number = i + 1;
-  }
-}
-
-/// @return the slot of that entry, or the free one in its place.
-std::size_t ProfileReader::Source::SlotOf(std::uint64_t hash, std::size_t owner,
-                                          std::wstring_view name) const {
-  const std::size_t mask = slots_.size() - 1;
-  std::size_t slot = static_cast<std::size_t>(hash) & mask;
-  while (slots_[slot] != 0) {
-    const Entry& entry = entries_[slots_[slot] - 1];
-    if (entry.hash == hash && entry.owner == owner && SameName(entry.name, name)) break;
-    slot = (slot + 1) & mask;
-  }
-  return slot;
-}
-
-std::size_t ProfileReader::Source::NumberOf(std::size_t owner, std::wstring_view name) const {
-  return slots_[SlotOf(HashName(name, seed_ + owner), owner, name)];
-}
-
-std::size_t ProfileReader::Source::SectionNumberOf(std::wstring_view name) const {
-  // A definition has one section, so the first entry, a header, nearly always is the one.
-  const bool isFirst = !entries_.empty() && SameName(entries_.front().name, name);
-  return isFirst ? 1 : NumberOf(0, name);
-}
 
 ProfileReader::ProfileReader(const std::wstring& path) {
   std::string bytes;

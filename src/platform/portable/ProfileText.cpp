@@ -78,17 +78,6 @@ bool SameName(std::wstring_view a, std::wstring_view b) {
                                   std::equal(a.begin(), a.end(), b.begin(), isSame));
 }
 
-std::uint64_t HashName(std::wstring_view name, std::uint64_t seed) {
-  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  const auto fold = [](wchar_t c) { return std::uint64_t{static_cast<std::uint32_t>(Fold(c))}; };
-  std::uint64_t hash = (seed + 1) * kMultiplier;
-  for (; name.size() >= 2; name.remove_prefix(2)) {
-    hash = (hash ^ fold(name[0]) ^ fold(name[1]) << 32) * kMultiplier;
-  }
-  if (!name.empty()) hash = (hash ^ fold(name[0])) * kMultiplier;
-  return hash ^ hash >> 32;
-}
-
 void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
   if (IsAscii(text)) {
     const std::size_t length = wide->size();
@@ -162,6 +151,7 @@ void Utf16Encoding::AppendUnits(std::wstring_view wide, std::u16string* text) {
 }
 
 std::wstring DecodeProfile(const std::string& bytes) {
+  if (IsAscii(std::string_view(bytes))) return std::wstring(bytes.begin(), bytes.end());
   std::wstring wide;
   if (Utf16Encoding::HasMark(bytes)) {
     const std::u16string text = Utf16Encoding::FromBytes(bytes);

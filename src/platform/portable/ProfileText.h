@@ -34,7 +34,7 @@ std::basic_string_view<Unit> TakeLine(std::basic_string_view<Unit>* rest) {
 
 template <typename Unit>
 bool IsBlank(Unit c) {
-  return c == ' ' || c == '\t' || c == '\v' || c == '\f' || c == '\x1A';
+  return c <= ' ' && (c == ' ' || c == '\t' || c == '\v' || c == '\f' || c == '\x1A');
 }
 
 template <typename Unit>
@@ -80,9 +80,6 @@ std::wstring_view StripSpaces(std::wstring_view name);
 
 /// Names are compared without regard to the case of ASCII letters.
 bool SameName(std::wstring_view a, std::wstring_view b);
-
-/// Hashes name so that equal names (as SameName has it) of equal seeds get equal hashes.
-std::uint64_t HashName(std::wstring_view name, std::uint64_t seed);
 
 /// The user's narrow encoding.
 class NarrowEncoding {

@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 #include <io.h>
@@ -9,25 +10,50 @@
 
 namespace tavrin::platform {
 
+namespace {
+
+struct Closer {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+using File = std::unique_ptr<std::FILE, Closer>;
+
+File OpenRegularFile(const std::string& path, std::uint64_t* size) {
+  File file(_fsopen(path.c_str(), "rb", _SH_DENYNO));
+  if (file == nullptr) return nullptr;
+  struct _stat64 status = {};
+  if (_fstat64(_fileno(file.get()), &status) != 0 || (status.st_mode & _S_IFMT) != _S_IFREG)
+    return nullptr;
+  *size = static_cast<std::uint64_t>(status.st_size);
+  return file;
+}
+
+}  // namespace
+
 bool FileExists(const std::wstring& path) {
   std::error_code error;
   return std::filesystem::exists(std::filesystem::path(path), error);
 }
 
-std::FILE* OpenRegularFile(const std::string& path, std::uint64_t* size) {
-  std::FILE* file = _fsopen(path.c_str(), "rb", _SH_DENYNO);
-  if (file == nullptr) return nullptr;
-  struct _stat64 status = {};
-  if (_fstat64(_fileno(file), &status) != 0 || (status.st_mode & _S_IFMT) != _S_IFREG) {
-    std::fclose(file);
-    return nullptr;
-  }
-  *size = static_cast<std::uint64_t>(status.st_size);
-  return file;
+bool GetRegularFileSize(const std::string& path, std::uint64_t* size) {
+  return OpenRegularFile(path, size) != nullptr;
+}
+
+bool ReadRegularFile(const std::string& path, unsigned char* block, std::uint32_t n) {
+  std::uint64_t size = 0;
+  const File file = OpenRegularFile(path, &size);
+  if (file != nullptr) static_cast<void>(std::fread(block, 1, n, file.get()));
+  return file != nullptr;
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {
   return _fsopen(path.c_str(), "wb", _SH_DENYNO);
+}
+
+bool WriteOwnerOnlyFile(const std::string& path, const unsigned char* block, std::uint32_t n) {
+  const File file(CreateOwnerOnlyFile(path));
+  if (file != nullptr) std::fwrite(block, 1, n, file.get());
+  return file != nullptr;
 }
 
 }  // namespace tavrin::platform
