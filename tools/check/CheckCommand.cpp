@@ -9,9 +9,8 @@
 #include "Failure.h"
 #include "FileTransfer.h"
 #include "StandardStreams.h"
+#include "check/DefinitionReading.h"
 #include "check/FindingsOutput.h"
-#include "check/PlainText.h"
-#include "check/Reading.h"
 #include "check/Rules.h"
 
 namespace tavrin::tool {
@@ -32,7 +31,7 @@ struct CheckOptions {
 };
 
 Findings CheckFile(const std::string& file) {
-  return FindAll(Reading(PlainTextOf(file == "-" ? ReadStandardInput() : ReadFile(file))));
+  return FindAll(ReadDefinition(file == "-" ? ReadStandardInput() : ReadFile(file)));
 }
 
 /// @return the exit status.

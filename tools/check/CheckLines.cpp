@@ -26,15 +26,15 @@ std::size_t SpellingDistance(const std::string& a, const std::string& b) {
   return row.back();
 }
 
-/// The known key whose spelling is nearest, with the number that name has; empty when none is near.
+/// The known key whose spelling is nearest, with the number that name has or else 1;
+/// empty when none is near.
 std::string NearestKey(const Reading& reading, const std::string& name) {
-  std::int32_t number = 0;
+  std::int32_t number = 1;
   const std::size_t digits = name.find_first_of("0123456789");
-  const bool hasNumber = digits != std::string::npos && ParseInt(name.substr(digits), &number);
+  if (digits != std::string::npos) ParseInt(name.substr(digits), &number);
   std::string nearest;
   std::size_t limit = name.size() / 4 + 2;
   for (const KnownKey& known : reading.knownKeys) {
-    if (known.digits != 0 && !hasNumber) continue;
     const std::string candidate = known.WithNumber(number);
     const std::size_t distance = SpellingDistance(Folded(name), Folded(candidate));
     if (distance >= limit) continue;
@@ -115,30 +115,36 @@ void CheckLine(const Check& check, const KeyLine& line) {
 
 void CheckVersion(const Check& check) {
   const LineIndex& lines = check.reading.lines;
+  const KeyLine* version = lines.Find("Version");
   check.Add(Severity::Error, "Version",
-            lines.HeaderLine() == 0            ? "there is no section [printer]"
-            : lines.Find("Version") != nullptr ? "this key has no value"
-                                               : "this key is missing",
+            lines.HeaderLine() == 0  ? "there is no section [printer]"
+            : version == nullptr     ? "this key is missing"
+            : version->value.empty() ? "this key has no value"
+                                     : "nothing of so long a value is read",
             "the definition does not load", "write Version=... in section [printer]");
 }
 
 }  // namespace
 
 bool CheckMark(const Check& check) {
-  const auto& keys = check.reading.lines.Keys();
-  // Where the mark is known, or stands before another line, the library sees the section.
-  const bool isSeen = std::all_of(keys.begin(), keys.end(), [&](const KeyLine& line) {
-    return line.place != KeyLine::Place::Section || !line.hasEquals || check.reading.Lists(line);
-  });
-  if (!check.reading.lines.HasMark() || isSeen) return false;
-  check.Add(1, Severity::Error, "[printer]", "a byte order mark before the section hides it",
-            check.reading.loads ? "its keys are not read" : "the definition does not load",
-            "save the file without a mark");
-  return true;
+  const LineIndex& lines = check.reading.lines;
+  const bool loads = check.reading.loads;
+  if (lines.HiddenHeaderLine() == 0) return false;
+  check.Add(lines.HiddenHeaderLine(), loads ? Severity::Warning : Severity::Error, "[printer]",
+            lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
+                            : "a byte order mark before the section hides it",
+            loads ? "its keys are not read" : "the definition does not load",
+            lines.IsUtf16() ? "save the file as UTF-16LE with a mark or in the user's encoding"
+                            : "save the file without a mark");
+  return !loads;
 }
 
 void CheckLines(const Check& check) {
   if (!check.reading.loads) CheckVersion(check);
+  for (const std::size_t header : check.reading.lines.CrowdedHeaders()) {
+    check.Add(header, Severity::Warning, "[printer]", "text follows ] in its line",
+              "it has no effect", "move it to a line of its own");
+  }
   for (const KeyLine& line : check.reading.lines.Keys())
     CheckLine(check, line);
 }

@@ -1,6 +1,7 @@
 #include "check/LineIndex.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "definition/PrinterKeys.h"
 
@@ -26,25 +27,17 @@ std::string Unquoted(const std::string& value) {
   return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
-std::string FromUtf16(std::string_view bytes, std::size_t lowByte) {
+/// Of UTF-16 what is beyond ASCII comes out as '?'.
+std::string TextOf(const Bytes& plain, const TextFormat& format) {
+  if (format.unitLength == 1)
+    return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
   std::string text;
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const char low = bytes[i + lowByte];
-    const bool isAscii = bytes[i + 1 - lowByte] == '\0' && static_cast<unsigned char>(low) < 0x80;
-    text += isAscii ? low : '?';
+  for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
+    const unsigned char low = plain[i + format.lowByte];
+    const bool isAscii = plain[i + 1 - format.lowByte] == 0 && low < 0x80;
+    text += isAscii ? static_cast<char>(low) : '?';
   }
   return text;
-}
-
-/// Leaves out the mark at the start.
-std::string TextOf(const Bytes& plain, bool* hasMark) {
-  const std::string_view bytes(reinterpret_cast<const char*>(plain.data()), plain.size());
-  if (bytes.substr(0, 2) == "\xFF\xFE") return FromUtf16(bytes.substr(2), 0);
-  *hasMark = true;
-  if (bytes.substr(0, 2) == "\xFE\xFF") return FromUtf16(bytes.substr(2), 1);
-  if (bytes.substr(0, 3) == "\xEF\xBB\xBF") return std::string(bytes.substr(3));
-  *hasMark = false;
-  return std::string(bytes);
 }
 
 std::string_view TakeLine(std::string_view* rest) {
@@ -69,8 +62,24 @@ bool KeyLine::HasPlainName() const {
   return PlainPart(name) == name;
 }
 
-LineIndex::LineIndex(const Bytes& plain) {
-  const std::string text = TextOf(plain, &hasMark_);
+TextFormat TextFormat::Of(const Bytes& plain) {
+  const auto beginsWith = [&](std::initializer_list<unsigned char> mark) {
+    return plain.size() >= mark.size() && std::equal(mark.begin(), mark.end(), plain.begin());
+  };
+  if (beginsWith({0xFF, 0xFE})) return {2, 2, 0};
+  if (beginsWith({0xFE, 0xFF})) return {2, 2, 1};
+  if (beginsWith({0xEF, 0xBB, 0xBF})) return {3};
+  for (const std::size_t lowByte : {0, 1}) {
+    const TextFormat unmarked = {0, 2, lowByte};
+    const std::string header = std::string("[") + kPrinterSection + ']';
+    if (Folded(TextOf(plain, unmarked)).find(header) != std::string::npos) return unmarked;
+  }
+  return {};
+}
+
+LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
+    : format_(format), isKnown_(isKnown) {
+  const std::string text = TextOf(plain, format);
   std::string_view rest = text;
   for (std::size_t number = 1; !rest.empty(); ++number)
     AddLine(number, Trim(TakeLine(&rest)));
@@ -79,19 +88,35 @@ LineIndex::LineIndex(const Bytes& plain) {
 void LineIndex::AddLine(std::size_t number, std::string_view line) {
   if (line.empty() || line.front() == ';') return;
   if (line.front() == '[') {
-    const bool isPrinter = Folded(Spelled(line.substr(1, line.find(']') - 1))) == kPrinterSection;
-    place_ = !isPrinter         ? KeyLine::Place::Outside
-             : headerLine_ == 0 ? KeyLine::Place::Section
-                                : KeyLine::Place::LaterSection;
-    if (place_ == KeyLine::Place::Section) headerLine_ = number;
+    AddHeader(number, line);
+  } else {
+    AddKey(number, line);
+  }
+}
+
+void LineIndex::AddHeader(std::size_t number, std::string_view line) {
+  place_ = KeyLine::Place::Outside;
+  const std::size_t end = std::min(line.find(']'), line.size() - 1);
+  if (Folded(Spelled(line.substr(1, line.find(']') - 1))) != kPrinterSection) return;
+  // Where the reading code does not know a mark it takes it for text, but of the first line alone.
+  if (!isKnown_ && (IsUtf16() || number == 1)) {
+    if (hiddenHeaderLine_ == 0) hiddenHeaderLine_ = number;
     return;
   }
+  place_ = headerLine_ == 0 ? KeyLine::Place::Section : KeyLine::Place::LaterSection;
+  if (headerLine_ == 0) headerLine_ = number;
+  const std::string_view behind = Trim(line.substr(end + 1));
+  if (!behind.empty() && behind.front() != ';') crowdedHeaders_.push_back(number);
+}
+
+void LineIndex::AddKey(std::size_t number, std::string_view line) {
   const std::size_t equals = std::min(line.find('='), line.size());
   const bool hasEquals = equals < line.size();
   const std::string name = Spelled(line.substr(0, equals));
   if (place_ == KeyLine::Place::Section) counting_.emplace(Folded(name), keys_.size());
   keys_.push_back({number, place_, hasEquals, name,
-                   hasEquals ? Unquoted(Spelled(line.substr(equals + 1))) : std::string()});
+                   hasEquals ? Unquoted(Spelled(line.substr(equals + 1))) : std::string(),
+                   line.find('\0') != std::string_view::npos});
 }
 
 const KeyLine* LineIndex::Find(std::string_view key) const {

@@ -22,6 +22,7 @@ struct KeyLine {
   bool hasEquals = false;
   std::string name = {};
   std::string value = {};  ///< without the quotes round it
+  bool hasNul = false;     ///< name and value end where one is
 
   /// Whether the name is surely the same for the library: ASCII throughout, without a '?'.
   bool HasPlainName() const;
@@ -38,13 +39,24 @@ std::string PlainPart(const Text& text) {
   return plain;
 }
 
+/// How the bytes of a plain definition spell its text.
+struct TextFormat {
+  std::size_t markLength = 0;
+  std::size_t unitLength = 1;  ///< 2: UTF-16, else the user's encoding
+  std::size_t lowByte = 0;     ///< where in a unit the byte is that ASCII has
+
+  /// Of a definition, what its author means it to be.
+  static TextFormat Of(const Bytes& plain);
+};
+
 /// Says which line of a plain definition is which key. It knows the outline of the format, but not
 /// what a key means; what it says is held against what the library read.
 ///
 /// Texts are the file's bytes. Of UTF-16 only ASCII is kept, all else being '?'.
 class LineIndex {
  public:
-  explicit LineIndex(const Bytes& plain);
+  /// @param isKnown false when the reading code takes the format for the user's encoding.
+  LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown);
 
   const std::vector<KeyLine>& Keys() const { return keys_; }
   /// The line of the key that counts: the first in the first section of the name; null when there
@@ -52,17 +64,24 @@ class LineIndex {
   const KeyLine* Find(std::string_view key) const;
   /// Where the section begins; 0 when it is missing.
   std::size_t HeaderLine() const { return headerLine_; }
-  /// True when the file starts with a mark that the reading code does not know everywhere. The
-  /// lines are those of the text behind it.
-  bool HasMark() const { return hasMark_; }
+  /// Where a section begins that the unknown format hides from the reading code; 0 for nowhere.
+  std::size_t HiddenHeaderLine() const { return hiddenHeaderLine_; }
+  /// The headers of sections of the name with more in their line than a comment.
+  const std::vector<std::size_t>& CrowdedHeaders() const { return crowdedHeaders_; }
+  bool IsUtf16() const { return format_.unitLength == 2; }
 
  private:
   void AddLine(std::size_t number, std::string_view line);
+  void AddHeader(std::size_t number, std::string_view line);
+  void AddKey(std::size_t number, std::string_view line);
 
+  TextFormat format_;
+  bool isKnown_;
   std::vector<KeyLine> keys_;
   std::map<std::string, std::size_t> counting_;  ///< by folded name, into keys_
   std::size_t headerLine_ = 0;
-  bool hasMark_ = false;
+  std::size_t hiddenHeaderLine_ = 0;
+  std::vector<std::size_t> crowdedHeaders_;
   KeyLine::Place place_ = KeyLine::Place::Outside;
 };
 

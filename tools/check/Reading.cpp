@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
+#include <system_error>
 
 #include "Failure.h"
+#include "FilePath.h"
 #include "TemporaryFile.h"
 #include "check/KeyFacts.h"
 #include "definition/PrintModes.h"
@@ -14,28 +17,57 @@ namespace tavrin::tool {
 
 namespace {
 
-/// The reading code reads files alone.
-void WriteCopy(const Bytes& plain, TemporaryFile* copy) {
-  if (copy->Stream() == nullptr ||
-      std::fwrite(plain.data(), 1, plain.size(), copy->Stream()) != plain.size() ||
-      !copy->Close()) {
-    throw Failure(std::filesystem::temp_directory_path().string(), "takes no temporary file",
-                  "check its permissions and free space");
+std::filesystem::path TemporaryDirectory() {
+  std::error_code error;
+  const std::filesystem::path directory = std::filesystem::temp_directory_path(error);
+  if (error) {
+    throw Failure("the directory for temporary files", "cannot be used: " + error.message(),
+                  "name another one in TMPDIR, or on Windows in TMP");
   }
+  return directory;
+}
+
+/// The reading code reads files alone.
+class PlainCopy : public TemporaryFile {
+ public:
+  explicit PlainCopy(const Bytes& plain) : TemporaryFile(TemporaryDirectory() / "definition.ini") {
+    if (Stream() == nullptr ||
+        std::fwrite(plain.data(), 1, plain.size(), Stream()) != plain.size() || !Close()) {
+      throw Failure(ToArgument(Path().parent_path()), "takes no temporary file",
+                    "check its permissions and free space");
+    }
+  }
+};
+
+/// Asks the reading code, as platforms differ in it.
+bool IsKnown(const TextFormat& format, const Bytes& plain) {
+  if (format.markLength == 0 && format.unitLength == 1) return true;
+  Bytes probe(plain.begin(), plain.begin() + static_cast<std::ptrdiff_t>(format.markLength));
+  for (const unsigned char c : std::string_view("[printer]\nVersion=1\n")) {
+    probe.resize(probe.size() + format.unitLength);
+    probe[probe.size() - format.unitLength + format.lowByte] = c;
+  }
+  const PlainCopy copy(probe);
+  return !IniSnapshot(copy.Path().wstring()).ListKeys(WideCopy(kPrinterSection)).empty();
+}
+
+LineIndex IndexOf(const Bytes& plain) {
+  const TextFormat format = TextFormat::Of(plain);
+  return LineIndex(plain, format, IsKnown(format, plain));
 }
 
 /// Whether the read got what the line says, or the start of it.
 bool IsReadOf(const WatchedRead& read, const std::string& value) {
-  if (!read.found) return value.empty();
+  constexpr std::size_t kModulus = 0x10000;  // of the length of a value
+  if (!read.found) return value.empty() || value.size() >= kModulus;
   const std::string text = PlainPart(read.text);
   return PlainPart(value).compare(0, text.size(), text) == 0;
 }
 
 }  // namespace
 
-Reading::Reading(const Bytes& plain) : lines(plain), knownKeys(ListKnownKeys()) {
-  TemporaryFile copy(std::filesystem::temp_directory_path() / "definition.ini");
-  WriteCopy(plain, &copy);
+Reading::Reading(const Bytes& plain) : lines(IndexOf(plain)), knownKeys(ListKnownKeys()) {
+  const PlainCopy copy(plain);
   WatchedIni ini(copy.Path().wstring());
   loads = config->ParseOpened(ini);
   if (!loads) {

@@ -1,4 +1,4 @@
-#include "check/PlainText.h"
+#include "check/DefinitionReading.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -11,11 +11,6 @@ namespace tavrin::tool {
 
 namespace {
 
-/// UTF-16 text says what it is.
-bool HasUtf16Mark(const Bytes& bytes) {
-  return bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;
-}
-
 /// How little bytes look like text: control characters, which no text has and every ninth byte of
 /// an enciphered one is, then bytes beyond ASCII, which are rare in most definitions.
 std::pair<std::ptrdiff_t, std::ptrdiff_t> DoubtsAbout(const Bytes& bytes) {
@@ -27,17 +22,27 @@ std::pair<std::ptrdiff_t, std::ptrdiff_t> DoubtsAbout(const Bytes& bytes) {
           std::count_if(bytes.begin(), bytes.end(), isBeyondAscii)};
 }
 
+bool HasKeys(const Reading& reading) {
+  return !reading.listedKeys.empty();
+}
+
+bool HasHeader(const Reading& reading) {
+  return reading.lines.HeaderLine() != 0 || reading.lines.HiddenHeaderLine() != 0;
+}
+
 }  // namespace
 
-Bytes PlainTextOf(const Bytes& definition) {
-  Bytes deciphered = definition;
-  if (HasUtf16Mark(definition) ||
-      !DecryptBuffer(deciphered.data(), static_cast<std::uint32_t>(deciphered.size()))) {
-    return definition;
+Reading ReadDefinition(const Bytes& definition) {
+  Reading plain(definition);
+  Bytes bytes = definition;
+  if (!DecryptBuffer(bytes.data(), static_cast<std::uint32_t>(bytes.size()))) return plain;
+  Reading deciphered(bytes);
+  // What has keys when deciphered is what the library loads.
+  for (const auto has : {HasKeys, HasHeader}) {
+    if (has(deciphered)) return deciphered;
+    if (has(plain)) return plain;
   }
-  const bool isEnciphered =
-      HasUtf16Mark(deciphered) || DoubtsAbout(deciphered) < DoubtsAbout(definition);
-  return isEnciphered ? deciphered : definition;
+  return DoubtsAbout(bytes) < DoubtsAbout(definition) ? std::move(deciphered) : std::move(plain);
 }
 
 }  // namespace tavrin::tool
