@@ -66,12 +66,12 @@ void CheckCodes(const Check& check, const Table& table) {
     const auto [same, isNewCode] = byCode.emplace(code->number, code->key);
     const auto [similar, isNew] = byLastDigits.emplace(digits, code->key);
     if (isNew) continue;
-    check.Warn(
-        code->key,
-        isNewCode ? "the code ends in the same three digits as " + similar->second
-                  : "the code is that of " + same->second,
-        isNewCode ? "ink ids do not tell the two apart" : "slots find the first of the two alone",
-        "give it a code of its own");
+    check.Warn(code->key,
+               isNewCode ? "the code ends in the same three digits as " + similar->second
+                         : "the code is that of " + same->second,
+               isNewCode ? "inks that differ in it alone share one id and one category"
+                         : "slots find the first of the two alone",
+               "give it a code of its own");
   }
 }
 

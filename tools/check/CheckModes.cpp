@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <set>
+#include <string>
 
 #include "check/Rules.h"
 
@@ -42,10 +45,14 @@ void CheckModes(const Check& check) {
                "list each mode once");
   }
   for (const auto& mode : check.reading.config->Modes) {
-    if (mode->SliceSize > 0 || seen.erase(mode->Number) == 0) continue;
-    check.Warn(Numbered("Mode#SliceSize", mode->Number),
-               mode->SliceSize == 0 ? "the slice is cut to whole um, which leaves 0"
-                                    : "the slice is negative",
+    // What is out of range is said of lengths of every kind.
+    const bool isOutOfRange = mode->SliceSize == std::numeric_limits<std::int32_t>::min();
+    if (mode->SliceSize > 0 || isOutOfRange || seen.erase(mode->Number) == 0) continue;
+    const std::string key = Numbered("Mode#SliceSize", mode->Number);
+    check.Warn(key,
+               check.reading.FindNumber(key)->number == 0.0 ? "the slice is 0"
+               : mode->SliceSize == 0 ? "the slice is cut to whole um, which leaves 0"
+                                      : "the slice is negative",
                "the number of layers makes no sense", "write 0.001 (mm) or more");
   }
 }

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <string>
@@ -18,6 +19,32 @@ using Kind = WatchedRead::Kind;
 
 constexpr char kRestHasNoEffect[] = "the rest has no effect";
 
+/// As values are measured: in units of UTF-16.
+std::size_t CharactersOf(const std::wstring& text) {
+  const auto isPair = [](wchar_t c) { return static_cast<char32_t>(c) >> 16 != 0; };
+  return text.size() + static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isPair));
+}
+
+/// Where in a field the number ends that it begins with; the field's begin where there is none.
+/// What precedes the number is white space, no-break spaces included.
+///
+/// @param number receives the number as written.
+std::wstring::const_iterator EndOfNumber(const std::wstring& field, bool isInteger,
+                                         std::string* number) {
+  const auto begin =
+      std::find_if(field.begin(), field.end(), [](wchar_t c) { return c > L' ' && c < 0x7F; });
+  const std::string text(begin,
+                         std::find_if(begin, field.end(), [](wchar_t c) { return c >= 0x7F; }));
+  char* after = nullptr;
+  if (isInteger) {
+    std::strtol(text.c_str(), &after, 10);
+  } else {
+    std::strtod(text.c_str(), &after);
+  }
+  *number = text.substr(0, static_cast<std::size_t>(after - text.c_str()));
+  return begin + (after - text.c_str());
+}
+
 /// Looks at one read.
 class ValueCheck {
  public:
@@ -33,10 +60,13 @@ class ValueCheck {
   void CheckRange() const;
 
  private:
+  void CheckLength() const;
   void CheckField(const std::wstring& field, bool isInteger) const;
-  void CheckRest(const std::wstring& field, bool isInteger) const;
+  void CheckSize(const std::wstring& field, double number) const;
   /// Of the code or name of a table's entry, the line of the other; null when it has none.
   const KeyLine* OtherHalf() const;
+  /// Lengths are held in whole µm; the angle is the one number read as such that is none.
+  bool IsLength() const { return read_.kind == Kind::Number && read_.key != "SupportExtendAngle"; }
   std::string Outcome() const { return facts_.Outcome(*check_.reading.config, number_); }
   void Warn(const std::string& what, const std::string& effect, const std::string& remedy) const {
     check_.Warn(read_.key, what, effect, remedy);
@@ -51,7 +81,9 @@ class ValueCheck {
 
 void ValueCheck::CheckMissing() const {
   const std::string shape = facts_.shape;
-  if (line_ != nullptr) {
+  if (line_ != nullptr && !line_->value.empty()) {
+    Warn("nothing of so long a value is read", Outcome(), "shorten it to 260 characters");
+  } else if (line_ != nullptr) {
     Warn("a key without a value counts as missing", Outcome(), "write a value");
   } else if (facts_.governor == nullptr || shape == "Mode#LimitedContinuous") {
     check_.Add(Severity::Note, read_.key, "this key is missing", Outcome(),
@@ -72,24 +104,33 @@ const KeyLine* ValueCheck::OtherHalf() const {
 }
 
 void ValueCheck::CheckText() const {
-  constexpr std::size_t kLongest = 260;
   constexpr wchar_t kReplacement = 0xFFFD;
-  const std::string written = line_ == nullptr ? "" : line_->value;
-  if (read_.text.size() > kLongest) {
-    Warn("the value is longer than 260 characters",
-         written.size() > read_.text.size()
-             ? "only " + std::to_string(read_.text.size()) + " of them are read"
-             : "it is read beyond what definitions may have",
-         "shorten it");
-  }
+  CheckLength();
+  if (line_ != nullptr && line_->hasNul)
+    Warn("a NUL ends the name or the value", kRestHasNoEffect, "remove it");
   if (read_.text.find(kReplacement) != std::wstring::npos &&
-      written.find("\xEF\xBF\xBD") == std::string::npos) {
+      (line_ == nullptr || line_->value.find("\xEF\xBF\xBD") == std::string::npos)) {
     Warn("the value has bytes that are no character of the user's encoding",
          "the printer gets a replacement character for each", "save the file in that encoding");
   } else if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
     Warn("the value has a character that the user's encoding lacks",
          "the printer gets an empty text", "do without that character");
   }
+}
+
+void ValueCheck::CheckLength() const {
+  constexpr std::size_t kLongest = 260;
+  const std::size_t read = CharactersOf(read_.text);
+  std::size_t written = read;
+  if (line_ != nullptr) {
+    written =
+        check_.reading.lines.IsUtf16() ? line_->value.size() : CharactersOf(WideCopy(line_->value));
+  }
+  if (written <= kLongest) return;
+  Warn("the value is longer than 260 characters",
+       written > read ? "only the first " + std::to_string(read) + " are read"
+                      : "it is read beyond what definitions may have",
+       "shorten it");
 }
 
 void ValueCheck::CheckFields() const {
@@ -104,8 +145,8 @@ void ValueCheck::CheckFields() const {
   std::vector<std::string> fields = {text};
   if (form == Form::Integers || form == Form::Numbers) Split(text, &fields);
   const std::size_t wanted = facts_.fields == 0 ? fields.size() : facts_.fields;
-  const std::string count = "the list has " + std::to_string(fields.size()) +
-                            " fields in place of " + std::to_string(wanted);
+  const std::string count =
+      "the list has " + Counted(fields.size(), "field") + " in place of " + std::to_string(wanted);
   if (fields.size() < wanted) {
     Warn(count, Outcome(), "write all of them");
     return;
@@ -118,40 +159,45 @@ void ValueCheck::CheckFields() const {
 void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
   std::int32_t integer = 0;
   double number = 0.0;
+  std::string written;
+  const auto end = EndOfNumber(field, isInteger, &written);
+  const std::string quoted = Quoted(NarrowCopy(field));
   if (isInteger ? !ParseInt(field, &integer) : !ParseDouble(field, &number)) {
-    Warn(Quoted(NarrowCopy(field)) + (isInteger ? " is no 32-bit integer" : " is no number"),
+    const bool isNumber = !isInteger && !written.empty();
+    Warn(quoted + (isInteger  ? " is no 32-bit integer"
+                   : isNumber ? " is out of the range of numbers"
+                              : " is no number"),
          Outcome(),
-         isInteger ? "write an integer" : "write a number with a full stop before its decimals");
+         isInteger  ? "write an integer"
+         : isNumber ? "write the number that is meant"
+                    : "write a number with a full stop before its decimals");
     return;
   }
-  CheckRest(field, isInteger);
-}
-
-/// What precedes the number of a field that has one is white space, no-break spaces included.
-void ValueCheck::CheckRest(const std::wstring& field, bool isInteger) const {
-  const auto begin =
-      std::find_if(field.begin(), field.end(), [](wchar_t c) { return c > L' ' && c < 0x7F; });
-  const std::string text(begin,
-                         std::find_if(begin, field.end(), [](wchar_t c) { return c >= 0x7F; }));
-  char* after = nullptr;
-  if (isInteger) {
-    std::strtol(text.c_str(), &after, 10);
-  } else {
-    std::strtod(text.c_str(), &after);
-  }
-  const auto length = after - text.c_str();
+  if (!isInteger) CheckSize(field, number);
   const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
-  if (std::all_of(begin + length, field.end(), isBlank)) return;
-  const std::string read = Quoted(text.substr(0, static_cast<std::size_t>(length)));
-  Warn("only " + read + " of " + Quoted(NarrowCopy(field)) + " is read", kRestHasNoEffect,
+  if (std::all_of(end, field.end(), isBlank)) return;
+  const std::string read = Quoted(written);
+  Warn("only " + read + " of " + quoted + " is read", kRestHasNoEffect,
        "write " + read + " or the number that is meant");
 }
 
-/// Lengths are held in whole µm; the angle is the one number that is no length.
+/// Numbers that are held as they are read; hosts get the build volume in whole µm modulo 2^32.
+void ValueCheck::CheckSize(const std::wstring& field, double number) const {
+  const std::string quoted = Quoted(NarrowCopy(field));
+  if (facts_.form == Form::Numbers) {
+    const double size = std::trunc(number * kMicrometresPerMillimetre);
+    const std::uint32_t handedOut = TruncateToUint32(size);
+    if (size == handedOut && size > 0.0) return;
+    Warn(quoted + " is not in the range of 0.001 to 4294967.295",
+         "hosts get " + std::to_string(handedOut) + " um", "write it in mm");
+  } else if (!IsLength() && !std::isfinite(number)) {
+    Warn(quoted + " is not finite", Outcome(), "write a finite number");
+  }
+}
+
 void ValueCheck::CheckRange() const {
   constexpr std::int32_t kOverflow = std::numeric_limits<std::int32_t>::min();
-  if (read_.kind != Kind::Number || !read_.converted || read_.key == "SupportExtendAngle") return;
-  if (ToMicrometres(read_.number) != kOverflow) return;
+  if (!IsLength() || !read_.converted || ToMicrometres(read_.number) != kOverflow) return;
   Warn("the length is out of range", "the printer gets -2147483.648 mm", "write it in mm");
 }
 

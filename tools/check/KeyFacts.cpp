@@ -55,13 +55,13 @@ std::string Angle(const PrinterConfig& config) {
 }
 
 std::string ModeCount(const PrinterConfig& config) {
-  return std::to_string(config.Modes.size()) + " print modes";
+  return Counted(config.Modes.size(), "print mode");
 }
 
 std::string LimitedCount(const PrinterConfig& config) {
   const auto count = std::count_if(config.Modes.begin(), config.Modes.end(),
                                    [](const auto& mode) { return mode->Limited; });
-  return std::to_string(count) + " limited modes";
+  return Counted(static_cast<std::size_t>(count), "limited mode");
 }
 
 constexpr char kModeLeftOut[] = "mode # is left out";

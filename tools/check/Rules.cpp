@@ -7,7 +7,8 @@ namespace tavrin::tool {
 void Check::Add(std::size_t line, Severity severity, const std::string& key,
                 const std::string& what, const std::string& effect,
                 const std::string& remedy) const {
-  findings->push_back({line, severity, key, what, effect, remedy});
+  findings->push_back(
+      {line, severity, key.empty() ? Quoted(key) : Shortened(key), what, effect, remedy});
 }
 
 void Check::Add(Severity severity, const std::string& key, const std::string& what,
@@ -20,14 +21,22 @@ void Check::Warn(const std::string& key, const std::string& what, const std::str
   Add(Severity::Warning, key, what, effect, remedy);
 }
 
-std::string Quoted(const std::string& text) {
+std::string Shortened(const std::string& text) {
   constexpr std::size_t kLongest = 40;
-  if (text.size() <= kLongest) return '"' + text + '"';
+  if (text.size() <= kLongest) return text;
   const auto continuesCharacter = [](char c) { return (c & 0xC0) == 0x80; };
   std::size_t end = kLongest;
   while (end > kLongest - 3 && continuesCharacter(text[end]))
     --end;
-  return '"' + text.substr(0, end) + "...\"";
+  return text.substr(0, end) + "...";
+}
+
+std::string Quoted(const std::string& text) {
+  return '"' + Shortened(text) + '"';
+}
+
+std::string Counted(std::size_t count, const std::string& noun) {
+  return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 std::string Numbered(const std::string& text, std::int32_t number) {

@@ -22,8 +22,12 @@ struct Check {
   Findings* findings;
 };
 
-/// A text of the file in quotes, cut to at most 40 bytes; not within a character where it is UTF-8.
+/// A text of the file, cut to at most 40 bytes; not within a character where it is UTF-8.
+std::string Shortened(const std::string& text);
+/// The same in quotes.
 std::string Quoted(const std::string& text);
+/// The count with what is counted, in the plural where it must be.
+std::string Counted(std::size_t count, const std::string& noun);
 /// The text with the number in place of each '#'.
 std::string Numbered(const std::string& text, std::int32_t number);
 
@@ -32,9 +36,9 @@ Findings FindAll(const Reading& reading);
 
 // Each adds what one group of rules finds.
 
-/// A mark at the start of the file.
+/// A mark at the start of the file, or an encoding, that hides the section.
 ///
-/// @return whether it hides the section; there is then no sense in the other rules.
+/// @return whether nothing else loads; there is then no sense in the other rules.
 bool CheckMark(const Check& check);
 /// Sections, and lines that nothing reads.
 void CheckLines(const Check& check);
