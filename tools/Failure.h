@@ -1,5 +1,8 @@
 #pragma once
 
+#include <exception>
+#include <iostream>
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -15,5 +18,13 @@ class Failure : public std::runtime_error {
       : std::runtime_error((file.empty() ? "\"\"" : Printable(file)) + ": " + reason + " (" +
                            remedy + ")") {}
 };
+
+/// Tells the user why a command, or its part that concerns one file, ended.
+inline void ReportFailure(const std::exception& error) {
+  const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  std::cerr << "tavrin: "
+            << (isMemory ? "not enough memory (the file is held in memory whole)" : error.what())
+            << '\n';
+}
 
 }  // namespace tavrin::tool

@@ -1,12 +1,11 @@
 #include <exception>
-#include <iostream>
-#include <new>
 #include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
 
 #include "CipherCommands.h"
+#include "Failure.h"
 #include "ShowCommand.h"
 #include "TavrinVersion.h"
 #include "TemplateCommand.h"
@@ -113,10 +112,8 @@ int Run(int argc, char** argv) {
 int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
-  } catch (const std::bad_alloc&) {
-    std::cerr << "tavrin: not enough memory (the file is held in memory whole)\n";
   } catch (const std::exception& error) {
-    std::cerr << "tavrin: " << error.what() << '\n';
+    tavrin::tool::ReportFailure(error);
   }
   return kFailed;
 }

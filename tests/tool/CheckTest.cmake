@@ -28,6 +28,26 @@ check("no cases" definitions AND notes)
 expect_findings(2 warning ${definitions})
 expect_findings(0 note ${notes})
 
+# Enciphered, they are the same.
+foreach(case nul-tail utf16-big-endian)
+  succeed(encipher ${case}.ini ${case}.dat)
+  run(check ${case}.ini)
+  string(REPLACE ".ini:" ".dat:" expected "${output}")
+  run(check ${case}.dat)
+  check("enciphered; expected: ${expected}" output STREQUAL expected)
+endforeach()
+
+# The length of a value is kept in 16 bits.
+string(REPEAT m 65536 long)
+file(WRITE ${WORK}/value-16-bits.ini
+  "[printer]\nVersion=1\nModelName=mmmmm${long}\nIPAddress=${long}\n")
+run(check value-16-bits.ini)
+check("only the start of a value" output MATCHES ":3: warning: ModelName: [^\n]* only the first 5 are "
+  AND output MATCHES "\n[^\n]*:4: warning: IPAddress: nothing of so long a value is read, ")
+file(WRITE ${WORK}/version-16-bits.ini "[printer]\nVersion=${long}\n")
+run(check version-16-bits.ini)
+check("nothing of the version" output MATCHES ":2: error: Version: nothing of so long a value is ")
+
 file(COPY ${PROJECT}/tools/template.ini DESTINATION ${WORK})
 succeed(check template.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
 check("template and examples are not clean" NOT output)
@@ -54,9 +74,25 @@ check("--color=always" output MATCHES ":3: ${escape}\\[33mwarning${escape}\\[0m:
 refuse(3 "missing: does not exist" check missing white-off.ini)
 check("a file behind one that cannot be read" output MATCHES "^white-off.ini:3: warning: ")
 refuse(3 "empty: is empty" check empty)
-refuse(2 "threshold" check --threshold=fatal white-off.ini)
+foreach(threshold fatal 0)
+  refuse(2 "threshold" check --threshold=${threshold} white-off.ini)
+endforeach()
 if(NOT TOOL MATCHES "wine-run")  # which has an empty standard input
   execute_process(COMMAND ${TOOL} check - WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/white-off.dat
     OUTPUT_VARIABLE output RESULT_VARIABLE result)
   check("standard input" output MATCHES "^-:3: warning: " AND result EQUAL 1)
+
+  file(WRITE ${WORK}/${escape}.ini "[printer]\nVersion=\n")
+  run(check ${escape}.ini)
+  check("a control character in a file's name" output MATCHES "^\\?\\.ini:2: error: ")
+endif()
+if(UNIX AND NOT TOOL MATCHES "wine-run")
+  set(ENV{TMPDIR} ${WORK}/nowhere)
+  refuse(3 "directory for temporary files: cannot be used" check white-off.ini)
+  unset(ENV{TMPDIR})
+endif()
+if(EXISTS /dev/full AND NOT TOOL MATCHES "wine-run")
+  execute_process(COMMAND ${TOOL} check white-off.ini WORKING_DIRECTORY ${WORK}
+    OUTPUT_FILE /dev/full ERROR_VARIABLE message RESULT_VARIABLE result)
+  check("output that cannot be written" result EQUAL 3 AND message MATCHES "standard output: ")
 endif()

@@ -17,14 +17,14 @@ namespace tavrin::tool {
 
 namespace {
 
-constexpr int kUnreadable = 3;
+constexpr int kFailed = 3;
 
 const std::map<std::string, Severity> kThresholds = {
     {"note", Severity::Note}, {"warning", Severity::Warning}, {"error", Severity::Error}};
 
 struct CheckOptions {
   std::vector<std::string> files;
-  Severity threshold = Severity::Warning;
+  std::string threshold = "warning";
   bool quiet = false;
   std::string color = "auto";
   std::string format = "text";
@@ -36,6 +36,7 @@ Findings CheckFile(const std::string& file) {
 
 /// @return the exit status.
 int CheckFiles(const CheckOptions& options) {
+  const Severity threshold = kThresholds.at(options.threshold);
   const bool asJson = options.format == "json";
   const bool inColor =
       options.color == "always" || (options.color == "auto" && PrepareTerminalColors());
@@ -44,14 +45,14 @@ int CheckFiles(const CheckOptions& options) {
   for (const std::string& file : options.files) {
     try {
       for (const Finding& finding : CheckFile(file)) {
-        if (finding.severity < options.threshold) continue;
+        if (finding.severity < threshold) continue;
         status = std::max(status, static_cast<int>(finding.severity));
         if (asJson) objects.push_back(ToJson(file, finding));
         if (!asJson && !options.quiet) PrintFinding(file, finding, inColor, std::cout);
       }
     } catch (const std::exception& error) {
-      std::cerr << "tavrin: " << error.what() << '\n';
-      status = kUnreadable;
+      ReportFailure(error);
+      status = kFailed;
     }
   }
   if (asJson && !options.quiet)
@@ -77,7 +78,7 @@ void AddCheck(CLI::App* app, int* status) {
       ->add_option("--threshold", options->threshold,
                    "The least severity that is reported and counts: note, warning or error; "
                    "warning without it")
-      ->transform(CLI::CheckedTransformer(kThresholds).description(""));
+      ->check(CLI::IsMember({"note", "warning", "error"}).description(""));
   command->add_flag("--quiet", options->quiet, "Print no findings; the exit status tells");
   command
       ->add_option("--color", options->color,
@@ -90,11 +91,20 @@ void AddCheck(CLI::App* app, int* status) {
       "A finding is a line file:line: severity: key: what happened, what the printer gets\n"
       "instead, what to do. An error keeps the definition from loading or a query from\n"
       "answering; a warning is something written that has no effect, or a surprising one;\n"
-      "a note is a default that is used.\n"
+      "a note is a default that is used. A mode or the slots are judged up to their first key "
+      "that\n"
+      "fails them, as the library reads no further.\n"
       "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file that is empty or cannot be\n"
-      "read; 2 also for a mistake in the command line\n\n"
+      "read, or output that cannot be written; 2 also for a mistake in the command line\n\n"
       "Example: tavrin check printer.ini");
-  command->callback([options, status] { *status = CheckFiles(*options); });
+  command->callback([options, status] {
+    try {
+      *status = CheckFiles(*options);
+    } catch (const std::exception& error) {
+      ReportFailure(error);
+      *status = kFailed;
+    }
+  });
 }
 
 }  // namespace tavrin::tool

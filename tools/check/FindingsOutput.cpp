@@ -21,8 +21,8 @@ void PrintFinding(const std::string& file, const Finding& finding, bool inColor,
   const SeverityStyle& style = kSeverities[static_cast<std::size_t>(finding.severity)];
   const std::string text =
       finding.key + ": " + finding.what + ", " + finding.effect + ", " + finding.remedy;
-  out << file << ':' << finding.line << ": " << (inColor ? style.color : "") << style.name
-      << (inColor ? "\x1B[0m" : "") << ": " << Printable(text) << '\n';
+  out << Printable(file) << ':' << finding.line << ": " << (inColor ? style.color : "")
+      << style.name << (inColor ? "\x1B[0m" : "") << ": " << Printable(text) << '\n';
 }
 
 nlohmann::ordered_json ToJson(const std::string& file, const Finding& finding) {
