@@ -91,9 +91,8 @@ void AddCheck(CLI::App* app, int* status) {
       "A finding is a line file:line: severity: key: what happened, what the printer gets\n"
       "instead, what to do. An error keeps the definition from loading or a query from\n"
       "answering; a warning is something written that has no effect, or a surprising one;\n"
-      "a note is a default that is used. A mode or the slots are judged up to their first key "
-      "that\n"
-      "fails them, as the library reads no further.\n"
+      "a note is a default that is used. A mode or a slot is judged up to its first bad key,\n"
+      "where the library stops reading it.\n"
       "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file that is empty or cannot be\n"
       "read, or output that cannot be written; 2 also for a mistake in the command line\n\n"
       "Example: tavrin check printer.ini");
