@@ -37,16 +37,18 @@ foreach(case nul-tail utf16-big-endian)
   check("enciphered; expected: ${expected}" output STREQUAL expected)
 endforeach()
 
-# The length of a value is kept in 16 bits.
-string(REPEAT m 65536 long)
-file(WRITE ${WORK}/value-16-bits.ini
-  "[printer]\nVersion=1\nModelName=mmmmm${long}\nIPAddress=${long}\n")
-run(check value-16-bits.ini)
-check("only the start of a value" output MATCHES ":3: warning: ModelName: [^\n]* only the first 5 are "
-  AND output MATCHES "\n[^\n]*:4: warning: IPAddress: nothing of so long a value is read, ")
-file(WRITE ${WORK}/version-16-bits.ini "[printer]\nVersion=${long}\n")
-run(check version-16-bits.ini)
-check("nothing of the version" output MATCHES ":2: error: Version: nothing of so long a value is ")
+# The length of a value is kept in 16 bits, of which Wine has more.
+if(NOT TOOL MATCHES "wine-run")
+  string(REPEAT m 65536 long)
+  file(WRITE ${WORK}/value-16-bits.ini
+    "[printer]\nVersion=1\nModelName=mmmmm${long}\nIPAddress=${long}\n")
+  run(check value-16-bits.ini)
+  check("only the start of a value" output MATCHES ":3: warning: ModelName: [^\n]*first 5 are read, "
+    AND output MATCHES "\n[^\n]*:4: warning: IPAddress: nothing of so long a value is read, ")
+  file(WRITE ${WORK}/version-16-bits.ini "[printer]\nVersion=${long}\n")
+  run(check version-16-bits.ini)
+  check("nothing of the version" output MATCHES ":2: error: Version: nothing of so long a value ")
+endif()
 
 file(COPY ${PROJECT}/tools/template.ini DESTINATION ${WORK})
 succeed(check template.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)

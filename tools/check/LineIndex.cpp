@@ -96,8 +96,8 @@ void LineIndex::AddLine(std::size_t number, std::string_view line) {
 
 void LineIndex::AddHeader(std::size_t number, std::string_view line) {
   place_ = KeyLine::Place::Outside;
-  const std::size_t end = std::min(line.find(']'), line.size() - 1);
-  if (Folded(Spelled(line.substr(1, line.find(']') - 1))) != kPrinterSection) return;
+  const std::size_t end = std::min(line.find(']'), line.size());
+  if (Folded(Spelled(line.substr(1, end - 1))) != kPrinterSection) return;
   // Where the reading code does not know a mark it takes it for text, but of the first line alone.
   if (!isKnown_ && (IsUtf16() || number == 1)) {
     if (hiddenHeaderLine_ == 0) hiddenHeaderLine_ = number;
@@ -105,7 +105,7 @@ void LineIndex::AddHeader(std::size_t number, std::string_view line) {
   }
   place_ = headerLine_ == 0 ? KeyLine::Place::Section : KeyLine::Place::LaterSection;
   if (headerLine_ == 0) headerLine_ = number;
-  const std::string_view behind = Trim(line.substr(end + 1));
+  const std::string_view behind = Trim(line.substr(std::min(end + 1, line.size())));
   if (!behind.empty() && behind.front() != ';') crowdedHeaders_.push_back(number);
 }
 
