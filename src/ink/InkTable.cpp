@@ -1,12 +1,15 @@
 #include "ink/InkTable.h"
 
+#include <utility>
+
 namespace tavrin {
 
 void InkTable::Add(std::int32_t code, const std::string& name) {
-  IdentifiableData& entry = entries_.emplace_back();
-  entry.code = code;
-  entry.name = name;
-  byCode_.emplace(code, &entry);  // keeps an earlier entry of the same code
+  auto entry = std::make_unique<IdentifiableData>();
+  entry->code = code;
+  entry->name = name;
+  entries_.push_back(std::move(entry));
+  byCode_.emplace(code, entries_.back().get());  // keeps an earlier entry of the same code
 }
 
 void InkTable::Clear() {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <map>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "ink/IdentifiableData.h"
 
@@ -20,10 +21,10 @@ class InkTable {
   const IdentifiableData* Find(std::int32_t code) const;
 
   std::size_t size() const { return entries_.size(); }
-  const IdentifiableData& operator[](std::size_t index) const { return entries_[index]; }
+  const IdentifiableData& operator[](std::size_t index) const { return *entries_[index]; }
 
  private:
-  std::deque<IdentifiableData> entries_;  // which stay where they are as others follow
+  std::vector<std::unique_ptr<IdentifiableData>> entries_;
   std::map<std::int32_t, const IdentifiableData*> byCode_;
 };
 
