@@ -1,4 +1,5 @@
 // The profile functions as this library gives them where the platform has none.
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -212,6 +213,27 @@ TEST_F(PortableProfile, HostileFilesTakeLinearTime) {
     EXPECT_TRUE(Write(L"w", L"new")) << c.line;
     EXPECT_EQ(Read(9, L"S", L"new"), L"w") << c.line;
   }
+}
+
+// Names that differ in a bit near the top of each pair of characters, which multiplying carries out
+// of the hash.
+TEST_F(PortableProfile, NoNamesCanBeAimedAtEqualHashes) {
+  constexpr int kBits = 15;
+  const auto secondsToRead = [&](const std::string& zero, const std::string& one) {
+    std::string content = "[S]\n";
+    for (int i = 0; i < 1 << kBits; ++i) {
+      for (int bit = 0; bit < kBits; ++bit)
+        content += "k" + (i >> bit & 1 ? one : zero);
+      content += "=v\n";
+    }
+    Put(content + "K=v\n");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(Read(), L"v");
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  };
+  const double harmless = secondsToRead("\xEE\x80\x80", "\xEE\x80\x81");   // U+E000, U+E001
+  const double aimed = secondsToRead("\xEE\x80\x80", "\xF4\x8E\x80\x80");  // U+E000, U+10E000
+  EXPECT_LT(aimed, 8 * harmless);
 }
 
 }  // namespace

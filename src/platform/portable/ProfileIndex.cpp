@@ -9,7 +9,8 @@ namespace tavrin::platform {
 
 namespace {
 
-/// Two characters, A to Z as a to z. Those beyond Unicode's last may come out as anything.
+/// Two characters, A to Z as a to z. Those beyond Unicode's last, which no file holds, may come out
+/// as anything.
 std::uint64_t FoldPair(std::uint64_t pair) {
   constexpr std::uint64_t kEach = 0x0000000100000001;
   constexpr std::uint64_t kTop = kEach << 31;
@@ -18,17 +19,22 @@ std::uint64_t FoldPair(std::uint64_t pair) {
   return pair | (fromA & ~beyondZ & kTop) >> 26;  // bit 5 makes a letter small
 }
 
+/// Multiplying carries differences upwards alone, so the upper half comes down after each pair.
+std::uint64_t Mix(std::uint64_t hash, std::uint64_t pair) {
+  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
+  hash = (hash ^ FoldPair(pair)) * kMultiplier;
+  return hash ^ hash >> 32;
+}
+
 /// Hashes name so that equal names (as SameName has it) of equal seeds get equal hashes.
 std::uint64_t HashName(std::wstring_view name, std::uint64_t seed) {
-  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  std::uint64_t hash = (seed + 1) * kMultiplier;
+  std::uint64_t hash = Mix(seed, 0);
   for (std::uint64_t pair = 0; name.size() >= 2; name.remove_prefix(2)) {
     static_assert(sizeof pair == 2 * sizeof(wchar_t));
     std::memcpy(&pair, name.data(), sizeof pair);
-    hash = (hash ^ FoldPair(pair)) * kMultiplier;
+    hash = Mix(hash, pair);
   }
-  if (!name.empty()) hash = (hash ^ FoldPair(static_cast<std::uint32_t>(name[0]))) * kMultiplier;
-  return hash ^ hash >> 32;
+  return Mix(hash, name.empty() ? 0 : static_cast<std::uint32_t>(name[0]));
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ class ProfileIndex {
   std::size_t SectionNumberOf(std::wstring_view name) const;
 
   std::wstring text_;
-  /// Where the text lies differs from process to process: no file can aim at equal hashes.
+  /// Where the text lies differs from process to process, so that no file can aim at equal hashes.
   std::uint64_t seed_;
   std::vector<Entry> entries_;
   std::vector<std::size_t> slots_;  ///< of entry numbers; a power of two, at most half of it taken
