@@ -23,20 +23,19 @@ class RecordingIni : public IniSnapshot {
   using IniSnapshot::ReadInt;
   using IniSnapshot::ReadString;
 
-  bool ReadInt(const std::wstring& section, const std::wstring& key, std::int32_t* value) override {
+  bool ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value) override {
     const bool found = IniSnapshot::ReadInt(section, key, value);
     keys.back().kind = AskedKey::Kind::Integer;
     return found;
   }
 
-  bool ReadDouble(const std::wstring& section, const std::wstring& key, double* value) override {
+  bool ReadDouble(const wchar_t* section, const wchar_t* key, double* value) override {
     const bool found = IniSnapshot::ReadDouble(section, key, value);
     keys.back().kind = AskedKey::Kind::Number;
     return found;
   }
 
-  bool ReadString(const std::wstring& section, const std::wstring& key,
-                  std::wstring* value) override {
+  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
     keys.push_back({NarrowCopy(key), AskedKey::Kind::Text});
     return IniSnapshot::ReadString(section, key, value);
   }

@@ -4,6 +4,7 @@
 
 #include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
+#include "definition/WideText.h"
 #include "platform/Files.h"
 #include "platform/Profile.h"
 
@@ -14,13 +15,6 @@ namespace {
 // The size in bytes of 261 wide characters on Windows, which the library has always handed over as
 // a number of characters; definition files keep to 260, but up to 521 come back.
 constexpr std::uint32_t kValueCharacters = 522;
-
-/// WideCopy for names: an exhausted memory must not make a key look like a missing one.
-std::wstring WideName(const std::string& narrow) {
-  std::wstring wide;
-  if (!ToWide(narrow, &wide)) throw std::bad_alloc();
-  return wide;
-}
 
 }  // namespace
 
@@ -37,70 +31,60 @@ bool IniFile::Close() {
   return true;
 }
 
-bool IniFile::ReadInt(const std::wstring& section, const std::wstring& key, std::int32_t* value) {
+bool IniFile::ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value) {
   std::wstring text;
   return ReadString(section, key, &text) && ParseInt(text, value);
 }
 
-bool IniFile::ReadDouble(const std::wstring& section, const std::wstring& key, double* value) {
+bool IniFile::ReadDouble(const wchar_t* section, const wchar_t* key, double* value) {
   std::wstring text;
   return ReadString(section, key, &text) && ParseDouble(text, value);
 }
 
-bool IniFile::ReadString(const std::wstring& section, const std::wstring& key,
-                         std::wstring* value) {
+bool IniFile::ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) {
   return ReadThrough(platform::ProfileReader(path), section, key, value);
 }
 
 bool IniFile::ReadInt(const std::string& section, const std::string& key, std::int32_t* value) {
-  return ReadInt(WideSection(section), WideName(key), value);
+  return ReadInt(WideText(section).c_str(), WideText(key).c_str(), value);
 }
 
 bool IniFile::ReadDouble(const std::string& section, const std::string& key, double* value) {
-  return ReadDouble(WideSection(section), WideName(key), value);
+  return ReadDouble(WideText(section).c_str(), WideText(key).c_str(), value);
 }
 
 bool IniFile::ReadString(const std::string& section, const std::string& key, std::string* value) {
   std::wstring wide;
-  if (!ReadString(WideSection(section), WideName(key), &wide)) return false;
+  if (!ReadString(WideText(section).c_str(), WideText(key).c_str(), &wide)) return false;
   if (!ToNarrow(wide, value)) throw std::bad_alloc();
   return true;
 }
 
-bool IniFile::WriteString(const std::wstring& section, const std::wstring& key,
-                          const std::wstring& value) {
-  return platform::WriteProfileValue(section.c_str(), key.c_str(), value.c_str(), path.c_str());
+bool IniFile::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value) {
+  return platform::WriteProfileValue(section, key, value, path.c_str());
 }
 
 bool IniFile::WriteString(const std::string& section, const std::string& key,
                           const std::string& value) {
-  return WriteString(WideName(section), WideName(key), WideName(value));
+  return WriteString(WideText(section).c_str(), WideText(key).c_str(), WideText(value).c_str());
 }
 
-bool IniFile::DeleteKey(const std::wstring& section, const std::wstring& key) {
-  return platform::WriteProfileValue(section.c_str(), key.c_str(), nullptr, path.c_str());
+bool IniFile::DeleteKey(const wchar_t* section, const wchar_t* key) {
+  return platform::WriteProfileValue(section, key, nullptr, path.c_str());
 }
 
-std::vector<std::wstring> IniFile::ListKeys(const std::wstring& section) {
-  return platform::ProfileReader(path).ListKeys(section.c_str());
+std::vector<std::wstring> IniFile::ListKeys(const wchar_t* section) {
+  return platform::ProfileReader(path).ListKeys(section);
 }
 
 std::vector<std::wstring> IniFile::ListKeys(const std::string& section) {
-  return ListKeys(WideName(section));
+  return ListKeys(WideText(section).c_str());
 }
 
-const std::wstring& IniFile::WideSection(const std::string& section) {
-  if (section != section_) {
-    wideSection_ = WideName(section);
-    section_ = section;
-  }
-  return wideSection_;
-}
-
-bool IniFile::ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,
-                          const std::wstring& key, std::wstring* value) {
+bool IniFile::ReadThrough(const platform::ProfileReader& reader, const wchar_t* section,
+                          const wchar_t* key, std::wstring* value) {
   wchar_t text[kValueCharacters];
-  const std::uint32_t length = reader.Read(section.c_str(), key.c_str(), text, kValueCharacters);
+  const std::uint32_t length = reader.Read(section, key, text, kValueCharacters);
   value->assign(text, length);
   return length != 0;
 }

@@ -35,11 +35,10 @@ class IniFile {
   /// Nothing is held open. Always true.
   virtual bool Close();
 
-  virtual bool ReadInt(const std::wstring& section, const std::wstring& key, std::int32_t* value);
-  virtual bool ReadDouble(const std::wstring& section, const std::wstring& key, double* value);
+  virtual bool ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value);
+  virtual bool ReadDouble(const wchar_t* section, const wchar_t* key, double* value);
   /// Unlike the other reads this one always assigns value: the empty text where it gives false.
-  virtual bool ReadString(const std::wstring& section, const std::wstring& key,
-                          std::wstring* value);
+  virtual bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value);
 
   virtual bool ReadInt(const std::string& section, const std::string& key, std::int32_t* value);
   virtual bool ReadDouble(const std::string& section, const std::string& key, double* value);
@@ -48,16 +47,15 @@ class IniFile {
   /// Writes key=value into the section, creating file, section and key as needed.
   ///
   /// @return false when the file cannot be written.
-  virtual bool WriteString(const std::wstring& section, const std::wstring& key,
-                           const std::wstring& value);
+  virtual bool WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value);
   virtual bool WriteString(const std::string& section, const std::string& key,
                            const std::string& value);
   /// Removes the key's line; a key that is not there is no failure.
-  virtual bool DeleteKey(const std::wstring& section, const std::wstring& key);
+  virtual bool DeleteKey(const wchar_t* section, const wchar_t* key);
 
   /// The names of the keys in the section. One that is listed need not have a value that
   /// can be read.
-  virtual std::vector<std::wstring> ListKeys(const std::wstring& section);
+  virtual std::vector<std::wstring> ListKeys(const wchar_t* section);
   virtual std::vector<std::wstring> ListKeys(const std::string& section);
 
   /// The file that every operation addresses.
@@ -65,15 +63,8 @@ class IniFile {
 
  protected:
   /// What the wide ReadString does, on an opened reader.
-  static bool ReadThrough(const platform::ProfileReader& reader, const std::wstring& section,
-                          const std::wstring& key, std::wstring* value);
-
- private:
-  /// The wide name of section, kept for the reads that follow: a definition has one section.
-  const std::wstring& WideSection(const std::string& section);
-
-  std::string section_;
-  std::wstring wideSection_;
+  static bool ReadThrough(const platform::ProfileReader& reader, const wchar_t* section,
+                          const wchar_t* key, std::wstring* value);
 };
 
 /// True when path names an existing entry of the file system, of whatever kind.

@@ -6,13 +6,12 @@ IniSnapshot::IniSnapshot(const std::wstring& snapshotPath) : reader_(snapshotPat
   path = snapshotPath;
 }
 
-bool IniSnapshot::ReadString(const std::wstring& section, const std::wstring& key,
-                             std::wstring* value) {
+bool IniSnapshot::ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) {
   return ReadThrough(reader_, section, key, value);
 }
 
-std::vector<std::wstring> IniSnapshot::ListKeys(const std::wstring& section) {
-  return reader_.ListKeys(section.c_str());
+std::vector<std::wstring> IniSnapshot::ListKeys(const wchar_t* section) {
+  return reader_.ListKeys(section);
 }
 
 }  // namespace tavrin

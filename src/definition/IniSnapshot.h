@@ -14,10 +14,9 @@ class IniSnapshot : public IniFile {
   explicit IniSnapshot(const std::wstring& snapshotPath);
 
   using IniFile::ReadString;
-  bool ReadString(const std::wstring& section, const std::wstring& key,
-                  std::wstring* value) override;
+  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override;
   using IniFile::ListKeys;
-  std::vector<std::wstring> ListKeys(const std::wstring& section) override;
+  std::vector<std::wstring> ListKeys(const wchar_t* section) override;
 
  private:
   platform::ProfileReader reader_;

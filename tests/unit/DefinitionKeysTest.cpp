@@ -36,8 +36,7 @@ class WatchedFile : public IniSnapshot {
   explicit WatchedFile(const std::string& file) : IniSnapshot(WideCopy(file)) {}
 
   using IniSnapshot::ReadString;
-  bool ReadString(const std::wstring& section, const std::wstring& key,
-                  std::wstring* value) override {
+  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
     asked.insert(Folded(NarrowCopy(key)));
     return IniSnapshot::ReadString(section, key, value);
   }

@@ -47,7 +47,7 @@ TEST(IniFile, TypedReadsLeaveTheirValueOnFailure) {
   EXPECT_EQ(text, "v");
 
   std::wstring wide = L"before";
-  EXPECT_FALSE(ini.ReadString(std::wstring(L"S"), std::wstring(L"Missing"), &wide));
+  EXPECT_FALSE(ini.ReadString(L"S", L"Missing", &wide));
   EXPECT_EQ(wide, L"") << "the wide read assigns what it found, nothing included";
 }
 
@@ -84,16 +84,18 @@ TEST(IniFile, OverridingTheWideReadsChangesTheNarrowOnes) {
   class Answering : public IniFile {
    public:
     using IniFile::ReadString;
-    bool ReadString(const std::wstring& section, const std::wstring& key,
-                    std::wstring* value) override {
-      *value = section + key;
+    bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
+      *value = std::wstring(section) + key;
       return true;
     }
   };
   Answering ini;
   std::string text;
-  EXPECT_TRUE(ini.ReadString("1", "2", &text));
-  EXPECT_EQ(text, "12");
+  for (const std::string& key : {std::string("2"), std::string(), std::string(47, 'k'),
+                                 std::string(48, 'k'), NarrowCopy(L"B\u00FCro")}) {
+    EXPECT_TRUE(ini.ReadString("1", key, &text));
+    EXPECT_EQ(text, "1" + key);
+  }
   std::int32_t number = 0;
   EXPECT_TRUE(ini.ReadInt("1", "2", &number));
   EXPECT_EQ(number, 12);

@@ -16,8 +16,7 @@ namespace {
 class AnsweringIni : public IniFile {
  public:
   using IniFile::ReadString;
-  bool ReadString(const std::wstring& /*section*/, const std::wstring& key,
-                  std::wstring* value) override {
+  bool ReadString(const wchar_t* /*section*/, const wchar_t* key, std::wstring* value) override {
     keys.push_back(NarrowCopy(key));
     *value = L"1,1,1";
     return true;

@@ -48,7 +48,7 @@ bool IsKnown(const TextFormat& format, const Bytes& plain) {
     probe[probe.size() - format.unitLength + format.lowByte] = c;
   }
   const PlainCopy copy(probe);
-  return !IniSnapshot(copy.Path().wstring()).ListKeys(WideCopy(kPrinterSection)).empty();
+  return !IniSnapshot(copy.Path().wstring()).ListKeys(kPrinterSection).empty();
 }
 
 LineIndex IndexOf(const Bytes& plain) {
@@ -83,7 +83,7 @@ Reading::Reading(const Bytes& plain) : lines(IndexOf(plain)), knownKeys(ListKnow
     const char* governor = FactsOf(KnownKeyOf(read.key, &number)->Shape()).governor;
     if (governor != nullptr) numbersAskedFor.emplace(governor, number);
   }
-  for (const std::wstring& key : ini.ListKeys(WideCopy(kPrinterSection)))
+  for (const std::wstring& key : ini.ListKeys(kPrinterSection))
     listedKeys.insert(Folded(NarrowCopy(key)));
   ReadModeList(ini, &modes);
   if (!modes.empty()) ReadLimitationModeList(ini, &limitationModes);

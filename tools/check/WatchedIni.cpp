@@ -17,19 +17,17 @@ bool Note(WatchedRead* read, WatchedRead::Kind kind, bool converted, const Value
 
 }  // namespace
 
-bool WatchedIni::ReadInt(const std::wstring& section, const std::wstring& key,
-                         std::int32_t* value) {
+bool WatchedIni::ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value) {
   const bool converted = IniSnapshot::ReadInt(section, key, value);
   return Note(&reads_.back(), WatchedRead::Kind::Integer, converted, value);
 }
 
-bool WatchedIni::ReadDouble(const std::wstring& section, const std::wstring& key, double* value) {
+bool WatchedIni::ReadDouble(const wchar_t* section, const wchar_t* key, double* value) {
   const bool converted = IniSnapshot::ReadDouble(section, key, value);
   return Note(&reads_.back(), WatchedRead::Kind::Number, converted, value);
 }
 
-bool WatchedIni::ReadString(const std::wstring& section, const std::wstring& key,
-                            std::wstring* value) {
+bool WatchedIni::ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) {
   const bool found = IniSnapshot::ReadString(section, key, value);
   reads_.push_back({NarrowCopy(key), WatchedRead::Kind::Text, found, false, *value, 0.0});
   return found;

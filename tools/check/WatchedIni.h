@@ -28,10 +28,9 @@ class WatchedIni : public IniSnapshot {
   using IniSnapshot::ReadDouble;
   using IniSnapshot::ReadInt;
   using IniSnapshot::ReadString;
-  bool ReadInt(const std::wstring& section, const std::wstring& key, std::int32_t* value) override;
-  bool ReadDouble(const std::wstring& section, const std::wstring& key, double* value) override;
-  bool ReadString(const std::wstring& section, const std::wstring& key,
-                  std::wstring* value) override;
+  bool ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value) override;
+  bool ReadDouble(const wchar_t* section, const wchar_t* key, double* value) override;
+  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override;
 
   /// In the order of the reads; a key that was asked for again is there again.
   const std::vector<WatchedRead>& Reads() const { return reads_; }
