@@ -41,8 +41,10 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   EXPECT_EQ(ReadWhole(folder.PathOf("copy")), content);
 
   unsigned char block[] = {'1', '2', '3'};
-  EXPECT_TRUE(ReadFileBytes(folder.Write("short", "ab"), block, 3));
+  EXPECT_TRUE(ReadFileBytes(folder.Write("shorter", "ab"), block, 3));
   EXPECT_EQ(std::string(block, block + 3), "ab3");
+  EXPECT_TRUE(ReadFileBytes(folder.Write("longer", "abcd"), block, 3));
+  EXPECT_EQ(std::string(block, block + 3), "abc");
 
   EXPECT_FALSE(loader.LoadFromFile(folder.Write("empty", "")));
   EXPECT_TRUE(loader.IsEmpty());

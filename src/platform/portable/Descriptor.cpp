@@ -2,17 +2,35 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tavrin::platform {
 
+Descriptor::Descriptor(const std::string& path, int flags, mode_t mode) {
+  do {
+    value_ = open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, mode);
+  } while (value_ < 0 && errno == EINTR);
+}
+
+Descriptor::~Descriptor() {
+  const int reason = errno;
+  if (IsOpen()) Close();
+  errno = reason;
+}
+
+bool Descriptor::Close() {
+  return close(Release()) == 0;
+}
+
 Descriptor OpenRegularFile(const std::string& path, std::uint64_t* size) {
-  Descriptor file(open(path.c_str(), O_RDONLY | kOpenFlags));
+  Descriptor file(path, O_RDONLY);
   struct stat status = {};
-  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return Descriptor(-1);
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return {};
   if (!S_ISREG(status.st_mode)) {
     errno = EINVAL;
-    return Descriptor(-1);
+    return {};
   }
   *size = static_cast<std::uint64_t>(status.st_size);
   return file;

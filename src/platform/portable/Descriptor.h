@@ -6,31 +6,28 @@
 #include <string_view>
 #include <utility>
 
-#include <fcntl.h>
-#include <unistd.h>
+#include <sys/types.h>
 
 namespace tavrin::platform {
 
-/// With these a pipe or device behind a path is seen without waiting for it.
-constexpr int kOpenFlags = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-
-/// A file descriptor, closed at the end of its scope; negative when a file could not be opened.
+/// A file descriptor, closed at the end of its scope.
 class Descriptor {
  public:
-  explicit Descriptor(int value) : value_(value) {}
-  ~Descriptor() {
-    if (value_ >= 0) close(value_);
-  }
+  /// None.
+  Descriptor() = default;
+  /// Opens path, none where that fails. A pipe or device there is seen without waiting for it.
+  Descriptor(const std::string& path, int flags, mode_t mode = 0);
+  ~Descriptor();
   Descriptor(Descriptor&& other) noexcept : value_(other.Release()) {}
   Descriptor& operator=(Descriptor&&) = delete;
 
-  int Get() const { return value_; }
   bool IsOpen() const { return value_ >= 0; }
+  int Get() const { return value_; }
   int Release() { return std::exchange(value_, -1); }
-  bool Close() { return close(Release()) == 0; }
+  bool Close();
 
  private:
-  int value_;
+  int value_ = -1;
 };
 
 // What fails leaves its reason in errno.
@@ -43,6 +40,7 @@ Descriptor OpenRegularFile(const std::string& path, std::uint64_t* size);
 /// @param length receives the number of bytes read, also when an error ended the reading.
 bool ReadUpTo(const Descriptor& file, void* block, std::size_t n, std::size_t* length);
 
+/// Writes all of bytes, from offset on.
 bool WriteAt(const Descriptor& file, std::string_view bytes, std::size_t offset);
 
 }  // namespace tavrin::platform

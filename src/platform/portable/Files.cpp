@@ -2,7 +2,9 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/TextEncoding.h"
 #include "platform/portable/Descriptor.h"
@@ -11,16 +13,15 @@ namespace tavrin::platform {
 
 namespace {
 
+/// Exclusively, so that an own file of wider permissions or a link is taken out of the way, not
+/// written to; what cannot be removed makes the creation fail.
 Descriptor CreateOwnerOnly(const std::string& path) {
-  const auto create = [&] {
-    return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                S_IRUSR | S_IWUSR);
-  };
-  // Exclusively, so that an own file of wider permissions or a link is taken out of the way, not
-  // written to; what cannot be removed makes the creation fail.
-  int descriptor = create();
-  if (descriptor < 0 && errno == EEXIST && unlink(path.c_str()) == 0) descriptor = create();
-  return Descriptor(descriptor);
+  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
+  constexpr mode_t kOwnersAlone = S_IRUSR | S_IWUSR;
+  Descriptor file(path, kFlags, kOwnersAlone);
+  if (!file.IsOpen() && errno == EEXIST && unlink(path.c_str()) == 0)
+    return Descriptor(path, kFlags, kOwnersAlone);
+  return file;
 }
 
 }  // namespace

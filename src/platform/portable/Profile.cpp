@@ -6,7 +6,9 @@
 #include <string_view>
 #include <utility>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/TextEncoding.h"
 #include "platform/portable/Descriptor.h"
@@ -44,7 +46,7 @@ bool UpdateFile(const std::string& path, std::string_view before, std::string_vi
   if (before == after) return true;
   struct stat status = {};
   const bool isNew = stat(path.c_str(), &status) != 0;
-  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | kOpenFlags, 0666));
+  Descriptor file(path, O_WRONLY | O_CREAT, 0666);
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   const auto kept = static_cast<std::size_t>(
       std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -

@@ -52,7 +52,7 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
 
 bool WriteOwnerOnlyFile(const std::string& path, const unsigned char* block, std::uint32_t n) {
   const File file(CreateOwnerOnlyFile(path));
-  if (file != nullptr) std::fwrite(block, 1, n, file.get());
+  if (file != nullptr) static_cast<void>(std::fwrite(block, 1, n, file.get()));
   return file != nullptr;
 }
 
