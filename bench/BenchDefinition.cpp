@@ -19,31 +19,16 @@ namespace {
 class RecordingIni : public IniSnapshot {
  public:
   using IniSnapshot::IniSnapshot;
-  using IniSnapshot::ReadDouble;
-  using IniSnapshot::ReadInt;
   using IniSnapshot::ReadString;
-
-  bool ReadInt(const wchar_t* section, const wchar_t* key, std::int32_t* value) override {
-    const bool found = IniSnapshot::ReadInt(section, key, value);
-    keys.back().kind = AskedKey::Kind::Integer;
-    return found;
-  }
-
-  bool ReadDouble(const wchar_t* section, const wchar_t* key, double* value) override {
-    const bool found = IniSnapshot::ReadDouble(section, key, value);
-    keys.back().kind = AskedKey::Kind::Number;
-    return found;
-  }
-
   bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
-    keys.push_back({NarrowCopy(key), AskedKey::Kind::Text});
+    keys.push_back(NarrowCopy(key));
     return IniSnapshot::ReadString(section, key, value);
   }
 
-  std::vector<AskedKey> keys;
+  std::vector<std::string> keys;
 };
 
-std::vector<AskedKey> KeysAskedOf(const std::string& plain) {
+std::vector<std::string> KeysAskedOf(const std::string& plain) {
   const std::string path = InTemporaryFolder("tavrin-bench.ini");
   WriteBare(path, plain);
   RecordingIni ini{WideCopy(path)};

@@ -5,14 +5,6 @@
 
 namespace tavrin::bench {
 
-/// A key that loading asks for, and what it wants its value to be.
-struct AskedKey {
-  enum class Kind { Text, Integer, Number };
-
-  std::string name;
-  Kind kind;
-};
-
 /// An enciphered definition on disk, gone with the object, and the keys that loading it asks for.
 class BenchDefinition {
  public:
@@ -22,11 +14,11 @@ class BenchDefinition {
   BenchDefinition& operator=(const BenchDefinition&) = delete;
 
   const std::string& Path() const { return path_; }
-  const std::vector<AskedKey>& Keys() const { return keys_; }
+  const std::vector<std::string>& Keys() const { return keys_; }
 
  private:
   std::string path_;
-  std::vector<AskedKey> keys_;
+  std::vector<std::string> keys_;
 };
 
 /// A path in the temporary directory.
