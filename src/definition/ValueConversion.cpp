@@ -4,11 +4,10 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <new>
 #include <stdexcept>
 #include <system_error>
 
-#include "definition/TextConversion.h"
+#include "definition/WideText.h"
 
 namespace tavrin {
 
@@ -25,13 +24,6 @@ bool IsAscii(wchar_t c) {
   return static_cast<char32_t>(c) < 0x80;
 }
 
-/// WideCopy, but that an exhausted memory must not make a number look like none.
-std::wstring Widened(const std::string& text) {
-  std::wstring wide;
-  if (!ToWide(text, &wide)) throw std::bad_alloc();
-  return wide;
-}
-
 /// What a number's characters can be among, at the start of text. Narrow, because the conversions
 /// of the runtimes agree on narrow ASCII.
 std::string NumberText(const std::wstring& text) {
@@ -43,7 +35,7 @@ std::string NumberText(const std::string& text) {
   const auto isSpace = [](char c) { return IsAscii(c) && IsSpace(c); };
   const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
   // Only its encoding tells whether white space beyond ASCII stands in front.
-  if (begin != text.end() && !IsAscii(*begin)) return NumberText(Widened(text));
+  if (begin != text.end() && !IsAscii(*begin)) return NumberText(WideText(text).c_str());
   return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
