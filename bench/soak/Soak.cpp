@@ -29,7 +29,8 @@ Usage MeasureUsage(const std::string& temporaryFolder) {
   long pages = 0;
   std::ifstream("/proc/self/statm") >> pages >> usage.residentKiB;
   usage.residentKiB *= sysconf(_SC_PAGESIZE) / 1024;
-  usage.heapBytes = static_cast<long>(mallinfo2().uordblks);
+  const struct mallinfo2 heap = mallinfo2();
+  usage.heapBytes = static_cast<long>(heap.uordblks + heap.hblkhd);
   usage.descriptors = EntriesOf("/proc/self/fd");
   usage.temporaryFiles = EntriesOf(temporaryFolder);
   return usage;
@@ -38,7 +39,8 @@ Usage MeasureUsage(const std::string& temporaryFolder) {
 std::string DefinitionWithSlots(bool withInvalidSlots) {
   const std::string code = withInvalidSlots ? "77" : "56";
   return Definition(
-      "ModelName=Soak\nMode=1,2\nMode1=600,2\nMode1SliceSize=0.04\nMode1ColorThickness=0.5\n"
+      "ModelName=D\xC3\xA9p\xC3\xB4t\nMode=1,2\nMode1=600,2\nMode1SliceSize=0."
+      "04\nMode1ColorThickness=0.5\n"
       "Mode2=900,4\nMode2SliceSize=0.02\nMode2ColorThickness=0.4\nLimitationMode=2\n"
       "PrinterInkSlotNum=3\nColorCodeInkSlot1=1\nInkTypeCodeInkSlot1=113\n"
       "ColorCodeInkSlot2=" +
