@@ -1,8 +1,10 @@
 #include "platform/portable/LocaleCodec.h"
 
+#include <cerrno>
 #include <climits>
 #include <cstring>
 #include <cwchar>
+#include <new>
 
 #include <langinfo.h>
 
@@ -96,6 +98,7 @@ class ScopedLocale {
 }  // namespace
 
 LocaleCodec::LocaleCodec() : locale_(newlocale(LC_CTYPE_MASK, "", nullptr)) {
+  if (locale_ == nullptr && errno == ENOMEM) throw std::bad_alloc();
   if (locale_ == nullptr) return;
   const char* codeset = nl_langinfo_l(CODESET, locale_);
   // The C locale's ASCII says that nobody chose an encoding.
