@@ -1,11 +1,31 @@
+#include <cerrno>
 #include <cstdio>
 #include <functional>
 #include <limits>
 #include <new>
 #include <string>
 
+#include <dlfcn.h>
+#include <locale.h>
+
 #include "InkSlot.h"
 #include "fault/SystemFaultTest.h"
+
+namespace {
+
+bool localesFail = false;
+
+}  // namespace
+
+// In place of the C library's, for the shared library too.
+extern "C" __attribute__((visibility("default"))) locale_t newlocale(int categories,
+                                                                     const char* name,
+                                                                     locale_t base) noexcept {
+  static const auto real = reinterpret_cast<decltype(&newlocale)>(dlsym(RTLD_NEXT, "newlocale"));
+  if (!localesFail) return real(categories, name, base);
+  errno = ENOMEM;
+  return nullptr;
+}
 
 namespace tavrin::test {
 namespace {
@@ -38,26 +58,42 @@ void ForEveryAllocation(Call call, Check check) {
 class AllocationFault : public SystemFaultTest {};
 
 TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothing) {
+  for (const char* lines : {kLines, ""}) {  // with all its own, and with all that is built in
+    const std::string path = folder.WriteEnciphered("loaded.dat", Definition(lines));
+    ASSERT_TRUE(TavrinInitialize(path.c_str()));
+    const std::string expected = AskEverything();
+    TavrinFinalize();
+    SetLastErrorAside();
+    long before = 0;
+    ForEveryAllocation(
+        [&] {
+          before = Allocations::Live();
+          return TavrinInitialize(path.c_str());
+        },
+        [&](Result result) {
+          if (result == Result::True) {
+            EXPECT_EQ(AskEverything(), expected);
+            TavrinFinalize();
+          } else {
+            const auto code = result == Result::Threw ? ErrorInvalidArgument : ErrorFailed;
+            EXPECT_EQ(LastError(), code);
+            ExpectNoDefinition();
+          }
+          EXPECT_EQ(Allocations::Live(), before);
+          ExpectAllInOrder();
+          SetLastErrorAside();
+        });
+  }
+}
+
+TEST_F(AllocationFault, NoMemoryForALocaleIsNotTakenForNoLocale) {
   SetLastErrorAside();
-  long before = 0;
-  ForEveryAllocation(
-      [&] {
-        before = Allocations::Live();
-        return TavrinInitialize(definition.c_str());
-      },
-      [&](Result result) {
-        if (result == Result::True) {
-          EXPECT_EQ(AskEverything(), answers);
-          TavrinFinalize();
-        } else {
-          const auto code = result == Result::Threw ? ErrorInvalidArgument : ErrorFailed;
-          EXPECT_EQ(LastError(), code);
-          ExpectNoDefinition();
-        }
-        EXPECT_EQ(Allocations::Live(), before);
-        ExpectAllInOrder();
-        SetLastErrorAside();
-      });
+  localesFail = true;
+  EXPECT_THROW(TavrinInitialize(definition.c_str()), std::bad_alloc);
+  localesFail = false;
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
+  ExpectNoDefinition();
+  ExpectAllInOrder();
 }
 
 TEST_F(AllocationFault, AConditionsFileIsWrittenWholeOrNotTouched) {
