@@ -69,7 +69,7 @@ TextFormat TextFormat::Of(const Bytes& plain) {
   if (beginsWith({0xFF, 0xFE})) return {2, 2, 0};
   if (beginsWith({0xFE, 0xFF})) return {2, 2, 1};
   if (beginsWith({0xEF, 0xBB, 0xBF})) return {3};
-  for (const std::size_t lowByte : {0, 1}) {
+  for (const std::size_t lowByte : {std::size_t{0}, std::size_t{1}}) {
     const TextFormat unmarked = {0, 2, lowByte};
     const std::string header = std::string("[") + kPrinterSection + ']';
     if (Folded(TextOf(plain, unmarked)).find(header) != std::string::npos) return unmarked;

@@ -43,9 +43,9 @@ class PlainCopy : public TemporaryFile {
 bool IsKnown(const TextFormat& format, const Bytes& plain) {
   if (format.markLength == 0 && format.unitLength == 1) return true;
   Bytes probe(plain.begin(), plain.begin() + static_cast<std::ptrdiff_t>(format.markLength));
-  for (const unsigned char c : std::string_view("[printer]\nVersion=1\n")) {
+  for (const char c : std::string_view("[printer]\nVersion=1\n")) {
     probe.resize(probe.size() + format.unitLength);
-    probe[probe.size() - format.unitLength + format.lowByte] = c;
+    probe[probe.size() - format.unitLength + format.lowByte] = static_cast<unsigned char>(c);
   }
   const PlainCopy copy(probe);
   return !IniSnapshot(copy.Path().wstring()).ListKeys(kPrinterSection).empty();
