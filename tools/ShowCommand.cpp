@@ -1,11 +1,12 @@
 #include "ShowCommand.h"
 
-#include <algorithm>
+#include <chrono>
 
 #include "FactsJson.h"
 #include "FactsText.h"
 #include "Failure.h"
 #include "FileTransfer.h"
+#include "LoadFailure.h"
 #include "TavrinLib.h"
 
 namespace tavrin::tool {
@@ -26,28 +27,15 @@ class LoadedDefinition {
   bool loaded_;
 };
 
-bool LooksLikePlainIni(const Bytes& bytes) {
-  const std::string section = "[printer]";
-  return bytes.front() == '[' || bytes.front() == ';' ||
-         std::search(bytes.begin(), bytes.end(), section.begin(), section.end()) != bytes.end();
-}
-
-/// Looks into a file that the library gave up on.
-Failure Diagnose(const std::string& file) {
-  if (LooksLikePlainIni(ReadFile(file))) {
-    return {file, "looks like a plain INI file, not a printer definition",
-            "make a definition of it with tavrin encipher"};
-  }
-  return {file, "cannot be loaded as a printer definition",
-          "tavrin decipher shows whether its section [printer] has a Version; the temporary "
-          "directory must be writable"};
-}
-
 }  // namespace
 
 void Show(const std::string& definition, ShowFormat format) {
+  const auto start = std::chrono::steady_clock::now();
   const LoadedDefinition loaded(definition);
-  if (!loaded) throw Diagnose(definition);
+  if (!loaded) {
+    throw ExplainLoadFailure(definition, std::chrono::duration_cast<std::chrono::milliseconds>(
+                                             std::chrono::steady_clock::now() - start));
+  }
   const PrinterFacts facts = AskPrinterFacts();
   PrintText(format == ShowFormat::Json ? FactsAsJson(facts) : FactsAsText(facts));
   if (!facts.HasIdentity()) {

@@ -1,6 +1,7 @@
 #include "check/Reading.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -11,20 +12,16 @@
 #include "check/KeyFacts.h"
 #include "definition/PrintModes.h"
 #include "definition/PrinterKeys.h"
+#include "definition/TemporaryPath.h"
 #include "definition/TextConversion.h"
 
 namespace tavrin::tool {
 
 namespace {
 
+/// The one that the library uses.
 std::filesystem::path TemporaryDirectory() {
-  std::error_code error;
-  const std::filesystem::path directory = std::filesystem::temp_directory_path(error);
-  if (error) {
-    throw Failure("the directory for temporary files", "cannot be used: " + error.message(),
-                  "name another one in TMPDIR, or on Windows in TMP");
-  }
-  return directory;
+  return ToPath(MakeTemporaryPath("")).parent_path();
 }
 
 /// The reading code reads files alone.
@@ -33,8 +30,10 @@ class PlainCopy : public TemporaryFile {
   explicit PlainCopy(const Bytes& plain) : TemporaryFile(TemporaryDirectory() / "definition.ini") {
     if (Stream() == nullptr ||
         std::fwrite(plain.data(), 1, plain.size(), Stream()) != plain.size() || !Close()) {
-      throw Failure(ToArgument(Path().parent_path()), "takes no temporary file",
-                    "check its permissions and free space");
+      throw Failure("temporary directory " + ToArgument(Path().parent_path()),
+                    "takes no file: " + std::generic_category().message(errno),
+                    "check its permissions and free space, or name another one in TMPDIR, on "
+                    "Windows in TMP");
     }
   }
 };

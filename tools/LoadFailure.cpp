@@ -1,0 +1,58 @@
+#include "LoadFailure.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "FilePath.h"
+#include "FileTransfer.h"
+#include "check/Reading.h"
+#include "definition/FileCipher.h"
+#include "definition/TemporaryPath.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+/// How long a load waits on Windows while another process has the plain copy.
+constexpr std::chrono::seconds kLongestWait(10);
+
+bool LooksLikePlainIni(const Bytes& bytes) {
+  const std::string section = "[printer]";
+  return bytes.front() == '[' || bytes.front() == ';' ||
+         std::search(bytes.begin(), bytes.end(), section.begin(), section.end()) != bytes.end();
+}
+
+/// Whether the definition loads from a plain copy of another name.
+bool LoadsElsewhere(Bytes bytes) {
+  return DecryptBuffer(bytes.data(), static_cast<std::uint32_t>(bytes.size())) &&
+         Reading(bytes).loads;
+}
+
+}  // namespace
+
+Failure ExplainLoadFailure(const std::string& file, std::chrono::milliseconds taken) {
+  const Bytes bytes = ReadFile(file);
+  if (LooksLikePlainIni(bytes)) {
+    return {file, "looks like a plain INI file, not a printer definition",
+            "make a definition of it with tavrin encipher"};
+  }
+  if (!LoadsElsewhere(bytes)) {
+    return {file, "has no Version in a section [printer] when it is deciphered",
+            "tavrin check tells what the library makes of it"};
+  }
+  if (taken >= kLongestWait) {
+    return {file, "another process has been loading a definition of this name for ten seconds",
+            "end that process, it may stand in a debugger"};
+  }
+  const std::string copy = MakeTemporaryPath(file);
+  std::error_code error;
+  if (std::filesystem::exists(std::filesystem::symlink_status(ToPath(copy), error))) {
+    return {copy, "lies in the place of the definition's plain copy and cannot be replaced",
+            "remove it, or name a temporary directory of your own in TMPDIR, on Windows in TMP"};
+  }
+  return {copy, "could not be created as the definition's plain copy",
+          "try again, or give the definition a shorter name"};
+}
+
+}  // namespace tavrin::tool
