@@ -3,16 +3,25 @@
 
 using namespace tavrin;
 
+namespace {
+
+/// Not TavrinFinalize, in whose place a host's own function of that name would be called.
+void ReleaseInstance() {
+  delete libraryInstance;
+  libraryInstance = nullptr;
+}
+
+}  // namespace
+
 bool TavrinInitialize(const char* path) {
   if (path == nullptr) return Fail(ErrorInvalidArgument);
-  TavrinFinalize();
+  ReleaseInstance();
   libraryInstance = CreatePrinterConfig(path).release();
   return libraryInstance != nullptr || Fail(ErrorFailed);
 }
 
 bool TavrinFinalize() {
-  delete libraryInstance;
-  libraryInstance = nullptr;
+  ReleaseInstance();
   return true;
 }
 
