@@ -76,14 +76,17 @@ enum TavrinErrorCode {
 /// load. While it loads, a plain copy of the definition lies in the temporary directory; it is
 /// removed before the call returns.
 ///
+/// Other processes may load definitions of the same file name at the same time: what is loaded is
+/// the definition at path. On Windows the call waits for them, for ten seconds at the most.
+///
 /// Keys that are missing or cannot be read take their defaults silently; only "Version" must be
 /// there.
 ///
 /// @param path the definition file; null is answered as below.
 /// @return false with #ErrorInvalidArgument when path is null (the loaded definition stays);
 ///         false with #ErrorFailed when the file is missing, empty, unreadable or holds no
-///         "Version", or no readable copy of it with a "Version" lies in the temporary directory
-///         (no definition is loaded afterwards).
+///         "Version", when the plain copy cannot be created, or when the wait was in vain (no
+///         definition is loaded afterwards).
 TAVRIN_API bool TavrinInitialize(const char* path);
 
 /// Releases the loaded printer definition. Harmless when there is none. A host that ends without

@@ -31,8 +31,4 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
   return platform::CreateOwnerOnlyFile(path);
 }
 
-bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
-  return block != nullptr && n != 0 && platform::WriteOwnerOnlyFile(path, block, n);
-}
-
 }  // namespace tavrin

@@ -28,7 +28,4 @@ bool WriteFileBytes(const std::string& path, const unsigned char* block, std::ui
 /// @return the open file, which the caller closes; null when it could not be created.
 std::FILE* CreateOwnerOnlyFile(const std::string& path);
 
-/// WriteFileBytes to a file from CreateOwnerOnlyFile.
-bool WriteOwnerOnlyFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n);
-
 }  // namespace tavrin

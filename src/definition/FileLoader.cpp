@@ -8,8 +8,8 @@ bool FileLoader::LoadFromFile(const std::string& path) {
   return Allocate(FileSizeOf(path)) && ReadFileBytes(path, Data(), Size());
 }
 
-bool FileLoader::SaveToFile(const std::string& path) const {
-  return !IsEmpty() && WriteOwnerOnlyFileBytes(path, Data(), Size());
+bool FileLoader::SaveToFile(platform::PlainCopy* copy) const {
+  return !IsEmpty() && copy->Write(Data(), Size());
 }
 
 }  // namespace tavrin

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "definition/Buffer.h"
+#include "platform/PlainCopy.h"
 
 namespace tavrin {
 
@@ -14,11 +15,10 @@ class FileLoader : public Buffer {
   /// @return false when the file is missing, empty, unreadable or too large for the memory.
   virtual bool LoadFromFile(const std::string& path);
 
-  /// Writes the block to a file at path that only its owner can read: what is saved from here is a
-  /// deciphered definition.
+  /// Writes the block, a deciphered definition, as its plain copy.
   ///
-  /// @return false when there is no block (no file is made) or the file cannot be created.
-  virtual bool SaveToFile(const std::string& path) const;
+  /// @return false when there is no block (no file is made) or no file to parse.
+  virtual bool SaveToFile(platform::PlainCopy* copy) const;
 };
 
 }  // namespace tavrin

@@ -1,9 +1,15 @@
 #include "definition/IniSnapshot.h"
 
+#include "definition/TextConversion.h"
+
 namespace tavrin {
 
 IniSnapshot::IniSnapshot(const std::wstring& snapshotPath) : reader_(snapshotPath) {
   path = snapshotPath;
+}
+
+IniSnapshot::IniSnapshot(const platform::PlainCopy& copy) : reader_(copy) {
+  path = WideCopy(copy.Path());
 }
 
 bool IniSnapshot::ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) {

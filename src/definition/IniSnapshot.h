@@ -12,6 +12,8 @@ namespace tavrin {
 class IniSnapshot : public IniFile {
  public:
   explicit IniSnapshot(const std::wstring& snapshotPath);
+  /// Reads the copy as it was written, whatever becomes of its path.
+  explicit IniSnapshot(const platform::PlainCopy& copy);
 
   using IniFile::ReadString;
   bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override;

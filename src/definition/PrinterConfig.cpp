@@ -1,7 +1,6 @@
 #include "definition/PrinterConfig.h"
 
 #include <cmath>
-#include <cstdio>
 
 #include "definition/FileCipher.h"
 #include "definition/IniSnapshot.h"
@@ -14,37 +13,23 @@
 
 namespace tavrin {
 
-namespace {
-
-/// Removes a file at the end of a scope, also when the scope is left by an exhausted allocation.
-class FileRemoval {
- public:
-  explicit FileRemoval(const std::string& path) : path_(path) {}
-  ~FileRemoval() { std::remove(path_.c_str()); }
-  FileRemoval(const FileRemoval&) = delete;
-  FileRemoval& operator=(const FileRemoval&) = delete;
-
- private:
-  const std::string& path_;
-};
-
-}  // namespace
-
 bool PrinterConfig::Load(const std::string& path) {
   Definition = std::make_unique<FileLoader>();
   if (!Definition->LoadFromFile(path)) return false;
   if (!DecryptBuffer(Definition->Data(), Definition->Size())) return false;
 
-  const std::string plainCopy = MakeTemporaryPath(path);
-  const FileRemoval removal(plainCopy);
-  // A copy that could not be written shows in what Parse finds at its path.
-  Definition->SaveToFile(plainCopy);
-  return Parse(plainCopy);
+  platform::PlainCopy copy(MakeTemporaryPath(path));
+  return Definition->SaveToFile(&copy) && Parse(copy);
 }
 
 bool PrinterConfig::Parse(const std::string& path) {
   IniSnapshot ini(WideCopy(path));
   return ini.Exists() && ParseOpened(ini);
+}
+
+bool PrinterConfig::Parse(const platform::PlainCopy& copy) {
+  IniSnapshot ini(copy);
+  return ParseOpened(ini);
 }
 
 bool PrinterConfig::ParseOpened(IniFile& ini) {

@@ -30,6 +30,9 @@ class PrinterConfig : public InkModel {
   ///         does not convert keeps the value that it had.
   bool Parse(const std::string& path);
 
+  /// Parse on the plain copy of a definition.
+  bool Parse(const platform::PlainCopy& copy);
+
   /// Parse on an opened file.
   bool ParseOpened(IniFile& ini);
 

@@ -27,9 +27,4 @@ bool ReadRegularFile(const std::string& path, unsigned char* block, std::uint32_
 /// @return the open file, which the caller closes; null when it could not be created.
 std::FILE* CreateOwnerOnlyFile(const std::string& path);
 
-/// Writes the n bytes of block to a file created as by CreateOwnerOnlyFile.
-///
-/// @return false when it could not be created. Later errors are not reported.
-bool WriteOwnerOnlyFile(const std::string& path, const unsigned char* block, std::uint32_t n);
-
 }  // namespace tavrin::platform

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/PlainCopy.h"
+
 namespace tavrin::platform {
 
 /// Reads strings of one profile (INI file) as the Windows profile functions do.
@@ -15,6 +17,7 @@ namespace tavrin::platform {
 class ProfileReader {
  public:
   explicit ProfileReader(const std::wstring& path);
+  explicit ProfileReader(const PlainCopy& copy);
   ~ProfileReader();
   ProfileReader(const ProfileReader&) = delete;
   ProfileReader& operator=(const ProfileReader&) = delete;

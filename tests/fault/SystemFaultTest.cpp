@@ -56,21 +56,23 @@ class SystemFault : public SystemFaultTest {
     return Until([this] { std::filesystem::remove_all(plainCopy); });
   }
 
-  /// The definition lies, deciphered, where its plain copy can be neither replaced nor removed.
+  /// Writes the plain definition of another printer to path.
+  std::string Plant(const std::string& path) const {
+    return folder.Write(path, Definition("ModelName=Planted\n"));
+  }
+
+  /// Another printer's definition lies where the plain copy can be neither replaced nor removed.
   Situation LockedPlainCopy() const {
-    Situation copy = AtThePlainCopy([&](auto path) { folder.Write(path, Definition(kLines)); });
+    Situation copy = AtThePlainCopy([&](auto path) { Plant(path); });
     return Until([copy, rights = Rights(temporary, 0555)]() mutable { rights.reset(); });
   }
 
   const std::string precious = folder.Write("precious", "precious");
-  /// Where the plain copy of the definition goes.
-  const std::string plainCopy = temporary + "/" +
-                                std::filesystem::read_symlink("/proc/self/exe").stem().string() +
-                                "_printer.bin";
 };
 
 TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
   using std::filesystem::create_directories;
+  using std::filesystem::create_hard_link;
   using std::filesystem::create_symlink;
   const std::string longName = std::string(240, 'n') + ".dat";
   const struct {
@@ -99,8 +101,14 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
        definition, true},
       {"empty directory at the plain copy",
        [&] { return AtThePlainCopy([](auto path) { create_directories(path); }); }, false},
-      {"file at the plain copy that cannot be replaced", [&] { return LockedPlainCopy(); }, true,
+      {"file at the plain copy that cannot be replaced", [&] { return LockedPlainCopy(); }, false,
        definition, true},
+      {"read-only file at the plain copy",
+       [&] { return AtThePlainCopy([&](auto path) { chmod(Plant(path).c_str(), 0400); }); }, true},
+      {"pipe at the plain copy",
+       [&] { return AtThePlainCopy([](auto path) { mkfifo(path.c_str(), 0600); }); }, true},
+      {"another name of a file at the plain copy",
+       [&] { return AtThePlainCopy([&](auto path) { create_hard_link(precious, path); }); }, true},
       {"link at the plain copy",
        [&] { return AtThePlainCopy([&](auto path) { create_symlink(precious, path); }); }, true},
       {"link to nowhere at the plain copy",

