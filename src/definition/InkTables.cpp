@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "definition/PrinterKeys.h"
@@ -24,16 +25,14 @@ std::vector<std::int32_t> EntryIndices(IniFile& ini, const std::string& prefix,
     std::iota(indices.begin(), indices.end(), 1);
     return indices;
   }
-  for (const std::wstring& key : ini.ListKeys(kPrinterSection)) {
+  ini.ListKeys(kPrinterSection, [&](std::wstring_view key) {
     // Another key's number may slip in here; it finds no entry when it is read.
-    if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9') {
-      continue;
-    }
+    if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9')
+      return;
     std::int32_t index = 0;
-    if (ParseInt(key.substr(prefix.size()), &index) && index >= 1 && index <= count) {
+    if (ParseInt(key.substr(prefix.size()), &index) && index >= 1 && index <= count)
       indices.push_back(index);
-    }
-  }
+  });
   std::sort(indices.begin(), indices.end());
   indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
   return indices;

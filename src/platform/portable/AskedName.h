@@ -1,6 +1,6 @@
 #pragma once
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
@@ -22,7 +22,13 @@ class AskedName {
       long_.resize(asked.size());
       text = long_.data();
     }
-    std::transform(asked.begin(), asked.end(), text, ToChar);
+    std::uint32_t bits = 0;
+    for (std::size_t i = 0; i < asked.size(); ++i) {
+      bits |= static_cast<std::uint32_t>(asked[i]);
+      text[i] = static_cast<Char>(asked[i]);
+    }
+    // A text of chars is ASCII and has no other name.
+    if (sizeof(Char) == 1 && bits >= 0x80) text[0] = static_cast<Char>(0x80);
     view_ = {text, asked.size()};
   }
   AskedName(const AskedName&) = delete;
@@ -31,12 +37,6 @@ class AskedName {
   std::basic_string_view<Char> View() const { return view_; }
 
  private:
-  /// What is not in ASCII becomes what no text of chars has either.
-  static Char ToChar(wchar_t c) {
-    constexpr std::uint32_t kBeyondAscii = 0x80;
-    return static_cast<Char>(sizeof(Char) > 1 ? c : std::min<std::uint32_t>(c, kBeyondAscii));
-  }
-
   Char short_[48];
   std::basic_string<Char> long_;
   std::basic_string_view<Char> view_;  ///< of one of the two

@@ -147,12 +147,16 @@ std::uint32_t ReadValue(const ProfileIndex<Char>& index, const wchar_t* section,
   return static_cast<std::uint32_t>(value.size());
 }
 
+/// What ProfileReader::ListKeys does.
 template <typename Char>
-std::vector<std::wstring> ListNames(const ProfileIndex<Char>& index, const wchar_t* section) {
-  std::vector<std::wstring> names;
-  for (const auto name : index.ListKeys(AskedName<Char>(section).View()))
-    names.emplace_back(name.begin(), name.end());
-  return names;
+void ListNames(const ProfileIndex<Char>& index, const wchar_t* section,
+               const std::function<void(std::wstring_view)>& take) {
+  std::wstring wide;
+  index.ListKeys(AskedName<Char>(section).View(), [&](const auto& name) {
+    wide.resize(name.size());
+    std::copy(name.begin(), name.end(), wide.begin());
+    take(wide);
+  });
 }
 
 }  // namespace
@@ -198,8 +202,9 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
       [&](const auto& index) { return ReadValue(index, section, key, buffer, size); });
 }
 
-std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
-  return source_->With([&](const auto& index) { return ListNames(index, section); });
+void ProfileReader::ListKeys(const wchar_t* section,
+                             const std::function<void(std::wstring_view)>& take) const {
+  source_->With([&](const auto& index) { ListNames(index, section, take); });
 }
 
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

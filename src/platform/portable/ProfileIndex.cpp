@@ -68,16 +68,6 @@ auto ProfileIndex<Char>::Find(View section, View key) const -> View {
 }
 
 template <typename Char>
-auto ProfileIndex<Char>::ListKeys(View section) const -> std::vector<View> {
-  std::vector<View> keys;
-  const std::size_t owner = SectionNumberOf(section);
-  // The keys of a section follow its header directly.
-  for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner; ++i)
-    keys.push_back(entries_[i].name);
-  return keys;
-}
-
-template <typename Char>
 void ProfileIndex<Char>::Add(std::size_t owner, View name, View value) {
   entries_.push_back({HashName(name, seed_ + owner), owner, name, value});
 }

@@ -23,8 +23,15 @@ class ProfileIndex {
   /// @return the value, empty also when there is no such key.
   View Find(View section, View key) const;
 
-  /// The names of the keys in section, in the order of the text.
-  std::vector<View> ListKeys(View section) const;
+  /// Hands take the names of the keys in section, in the order of the text.
+  template <typename Take>
+  void ListKeys(View section, Take take) const {
+    // The keys of a section follow its header directly.
+    const std::size_t owner = SectionNumberOf(section);
+    for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner;
+         ++i)
+      take(entries_[i].name);
+  }
 
  private:
   /// Entries are numbered from 1; 0 stands for none, and for the owner of the sections.
