@@ -4,6 +4,7 @@
 #include <numeric>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "definition/PrinterKeys.h"
@@ -52,21 +53,26 @@ bool ReadTable(IniFile& ini, const std::string& countKey, const std::string& pre
     std::string name;
     if (ini.ReadInt(kPrinterSection, entry + "Code", &code) &&
         ini.ReadString(kPrinterSection, entry + "Name", &name)) {
-      table->Add(code, name);
+      table->Add(code, std::move(name));
     }
   }
   return true;
 }
 
-bool ReadInkSlot(IniFile& ini, std::int32_t number, InkModel* inks) {
-  std::int32_t colorCode = 0;
-  std::int32_t inkTypeCode = 0;
-  const std::string suffix = IntToString(number);
-  return ini.ReadInt(kPrinterSection, "ColorCodeInkSlot" + suffix, &colorCode) &&
-         ini.ReadInt(kPrinterSection, "InkTypeCodeInkSlot" + suffix, &inkTypeCode) &&
-         inks->AddInkSlot(static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(colorCode),
-                          static_cast<std::uint32_t>(inkTypeCode));
-}
+/// The keys of a name and a number, one at a time.
+class NumberedKey {
+ public:
+  explicit NumberedKey(const char* name) : key_(name), nameLength_(key_.size()) {}
+
+  const std::string& With(std::int32_t number) {
+    key_.resize(nameLength_);
+    return key_ += IntToString(number);
+  }
+
+ private:
+  std::string key_;
+  std::size_t nameLength_;
+};
 
 /// Reads the slots up to the first that is not complete.
 ///
@@ -75,10 +81,18 @@ bool ReadCountedInkSlots(IniFile& ini, InkModel* inks) {
   std::int32_t count = 0;
   if (!ini.ReadInt(kPrinterSection, "PrinterInkSlotNum", &count) || count < 1) return false;
   inks->InkSlotNum = count;
+  NumberedKey colorKey("ColorCodeInkSlot");
+  NumberedKey inkTypeKey("InkTypeCodeInkSlot");
   // The count may be INT32_MAX, so a number is compared before it is raised.
   for (std::int32_t number = 0; number < count;) {
     ++number;
-    if (!ReadInkSlot(ini, number, inks)) return false;
+    std::int32_t color = 0;
+    std::int32_t inkType = 0;
+    if (!ini.ReadInt(kPrinterSection, colorKey.With(number), &color) ||
+        !ini.ReadInt(kPrinterSection, inkTypeKey.With(number), &inkType))
+      return false;
+    inks->AddInkSlot(static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(color),
+                     static_cast<std::uint32_t>(inkType));
   }
   return true;
 }
