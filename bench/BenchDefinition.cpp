@@ -6,36 +6,11 @@
 
 #include "bench/FileFloor.h"
 #include "definition/FileCipher.h"
-#include "definition/IniSnapshot.h"
-#include "definition/PrinterConfig.h"
-#include "definition/TextConversion.h"
 #include "util/TextUtilities.h"
 
 namespace tavrin::bench {
 
 namespace {
-
-/// Notes the keys that pass through.
-class RecordingIni : public IniSnapshot {
- public:
-  using IniSnapshot::IniSnapshot;
-  using IniSnapshot::ReadString;
-  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
-    keys.push_back(NarrowCopy(key));
-    return IniSnapshot::ReadString(section, key, value);
-  }
-
-  std::vector<std::string> keys;
-};
-
-std::vector<std::string> KeysAskedOf(const std::string& plain) {
-  const std::string path = InTemporaryFolder("tavrin-bench.ini");
-  WriteBare(path, plain);
-  RecordingIni ini{WideCopy(path)};
-  PrinterConfig().ParseOpened(ini);
-  std::remove(path.c_str());
-  return ini.keys;
-}
 
 std::string Example(const std::string& name) {
   return ReadBare(TAVRIN_EXAMPLES_DIR "/" + name);
@@ -44,7 +19,7 @@ std::string Example(const std::string& name) {
 }  // namespace
 
 BenchDefinition::BenchDefinition(const std::string& plain)
-    : path_(InTemporaryFolder("tavrin-bench.dat")), keys_(KeysAskedOf(plain)) {
+    : path_(InTemporaryFolder("tavrin-bench.dat")) {
   std::string block = plain;
   EncryptBuffer(reinterpret_cast<unsigned char*>(block.data()),
                 static_cast<std::uint32_t>(block.size()));

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace tavrin::bench {
 
-/// An enciphered definition on disk, gone with the object, and the keys that loading it asks for.
+/// An enciphered definition on disk, gone with the object.
 class BenchDefinition {
  public:
   explicit BenchDefinition(const std::string& plain);
@@ -14,11 +13,9 @@ class BenchDefinition {
   BenchDefinition& operator=(const BenchDefinition&) = delete;
 
   const std::string& Path() const { return path_; }
-  const std::vector<std::string>& Keys() const { return keys_; }
 
  private:
   std::string path_;
-  std::vector<std::string> keys_;
 };
 
 /// A path in the temporary directory.

@@ -35,9 +35,8 @@ void SaveAndRemoveCopy(benchmark::State& state) {
   FileLoader loader;
   loader.LoadFromFile(definition.Path());
   for (auto _ : state) {
-    const std::string copy = MakeTemporaryPath(definition.Path());
-    loader.SaveToFile(copy);
-    std::remove(copy.c_str());
+    platform::PlainCopy copy(MakeTemporaryPath(definition.Path()));
+    loader.SaveToFile(&copy);
   }
 }
 

@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "definition/IntegerConversion.h"
@@ -43,7 +44,7 @@ bool ParseDigits(const std::string& text, std::int32_t* value) {
 }
 
 template <typename Value, typename Text>
-bool ParsesAs(bool (*parse)(const Text&, Value*), const Text& text, bool parsed, Value expected) {
+bool ParsesAs(bool (*parse)(Text, Value*), Text text, bool parsed, Value expected) {
   Value value = 77;
   if (parse(text, &value) != parsed) return false;
   if (!parsed) expected = 77;
@@ -57,11 +58,11 @@ void CheckNumbers(const std::string& text) {
   std::int32_t digits = 0;
   const bool hasDigits = ParseDigits(text, &digits);
   const std::wstring wide = WideCopy(text);
-  Require(ParsesAs<std::int32_t, std::string>(ParseInt, text, hasDigits, digits),
+  Require(ParsesAs<std::int32_t, std::string_view>(ParseInt, text, hasDigits, digits),
           "an integer is what its digits say");
-  Require(ParsesAs<std::int32_t, std::wstring>(ParseInt, wide, hasDigits, digits),
+  Require(ParsesAs<std::int32_t, std::wstring_view>(ParseInt, wide, hasDigits, digits),
           "wide digits say the same");
-  Require(ParsesAs<double, std::wstring>(ParseDouble, wide, isNumber, number),
+  Require(ParsesAs<double, std::wstring_view>(ParseDouble, wide, isNumber, number),
           "a wide number is the narrow one");
 }
 

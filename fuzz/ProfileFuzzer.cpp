@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "definition/TextConversion.h"
@@ -90,16 +91,18 @@ class Profile {
   /// The values of all keys in the section but the one of the input.
   std::vector<std::wstring> OtherValues(const Input& input) {
     std::vector<std::wstring> values;
-    for (const std::wstring& key : reader_.ListKeys(input.section.c_str())) {
+    reader_.ListKeys(input.section.c_str(), [&](std::wstring_view listed) {
+      const std::wstring key(listed);
       if (AskedFor(key) != AskedFor(input.key)) values.push_back(Read(input.section, key));
-    }
+    });
     return values;
   }
 
   std::size_t CountOf(const Input& input) const {
     std::size_t count = 0;
-    for (const std::wstring& key : reader_.ListKeys(input.section.c_str()))
-      count += Lowered(key) == AskedFor(input.key);
+    reader_.ListKeys(input.section.c_str(), [&](std::wstring_view key) {
+      count += Lowered(std::wstring(key)) == AskedFor(input.key);
+    });
     return count;
   }
 

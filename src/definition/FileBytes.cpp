@@ -6,15 +6,6 @@
 
 namespace tavrin {
 
-std::uint32_t FileSizeOf(const std::string& path) {
-  std::uint64_t size = 0;
-  return platform::GetRegularFileSize(path, &size) ? static_cast<std::uint32_t>(size) : 0;
-}
-
-bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t n) {
-  return block != nullptr && n != 0 && platform::ReadRegularFile(path, block, n);
-}
-
 bool WriteFileBytes(const std::string& path, const unsigned char* block, std::uint32_t n) {
   if (block == nullptr || n == 0) return false;
   // A buffer of the stream's own is allocated once the file is truncated, too late to fail.

@@ -6,16 +6,6 @@
 
 namespace tavrin {
 
-/// The size of the file at path, truncated to 32 bits; 0 when it is not a regular file or cannot be
-/// opened.
-std::uint32_t FileSizeOf(const std::string& path);
-
-/// Reads n bytes from the start of the file at path into block. A file that is shorter leaves the
-/// rest of block as it was.
-///
-/// @return false when block is null, n is 0 or the file cannot be opened.
-bool ReadFileBytes(const std::string& path, unsigned char* block, std::uint32_t n);
-
 /// Writes the n bytes of block to the file at path, replacing one that is there.
 ///
 /// @return false when block is null, n is 0 or the file cannot be opened. Errors after the opening

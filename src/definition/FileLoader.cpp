@@ -1,11 +1,13 @@
 #include "definition/FileLoader.h"
 
-#include "definition/FileBytes.h"
+#include "platform/Files.h"
 
 namespace tavrin {
 
 bool FileLoader::LoadFromFile(const std::string& path) {
-  return Allocate(FileSizeOf(path)) && ReadFileBytes(path, Data(), Size());
+  Release();
+  return platform::ReadRegularFile(
+      path, [this](std::uint32_t size) { return Allocate(size) ? Data() : nullptr; });
 }
 
 bool FileLoader::SaveToFile(platform::PlainCopy* copy) const {

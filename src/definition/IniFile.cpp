@@ -73,12 +73,12 @@ bool IniFile::DeleteKey(const wchar_t* section, const wchar_t* key) {
   return platform::WriteProfileValue(section, key, nullptr, path.c_str());
 }
 
-std::vector<std::wstring> IniFile::ListKeys(const wchar_t* section) {
-  return platform::ProfileReader(path).ListKeys(section);
+void IniFile::ListKeys(const wchar_t* section, const TakeKey& take) {
+  platform::ProfileReader(path).ListKeys(section, take);
 }
 
-std::vector<std::wstring> IniFile::ListKeys(const std::string& section) {
-  return ListKeys(WideText(section).c_str());
+void IniFile::ListKeys(const std::string& section, const TakeKey& take) {
+  ListKeys(WideText(section).c_str(), take);
 }
 
 bool IniFile::ReadThrough(const platform::ProfileReader& reader, const wchar_t* section,

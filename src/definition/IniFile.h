@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace tavrin {
 
@@ -53,10 +54,12 @@ class IniFile {
   /// Removes the key's line; a key that is not there is no failure.
   virtual bool DeleteKey(const wchar_t* section, const wchar_t* key);
 
-  /// The names of the keys in the section. One that is listed need not have a value that
+  using TakeKey = std::function<void(std::wstring_view key)>;
+
+  /// Hands take the names of the keys in the section. One that is listed need not have a value that
   /// can be read.
-  virtual std::vector<std::wstring> ListKeys(const wchar_t* section);
-  virtual std::vector<std::wstring> ListKeys(const std::string& section);
+  virtual void ListKeys(const wchar_t* section, const TakeKey& take);
+  virtual void ListKeys(const std::string& section, const TakeKey& take);
 
   /// The file that every operation addresses.
   std::wstring path;

@@ -16,8 +16,8 @@ bool IniSnapshot::ReadString(const wchar_t* section, const wchar_t* key, std::ws
   return ReadThrough(reader_, section, key, value);
 }
 
-std::vector<std::wstring> IniSnapshot::ListKeys(const wchar_t* section) {
-  return reader_.ListKeys(section);
+void IniSnapshot::ListKeys(const wchar_t* section, const TakeKey& take) {
+  reader_.ListKeys(section, take);
 }
 
 }  // namespace tavrin

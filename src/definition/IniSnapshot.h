@@ -18,7 +18,7 @@ class IniSnapshot : public IniFile {
   using IniFile::ReadString;
   bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override;
   using IniFile::ListKeys;
-  std::vector<std::wstring> ListKeys(const wchar_t* section) override;
+  void ListKeys(const wchar_t* section, const TakeKey& take) override;
 
  private:
   platform::ProfileReader reader_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "definition/PrinterKeys.h"
@@ -24,16 +26,14 @@ std::vector<std::int32_t> EntryIndices(IniFile& ini, const std::string& prefix,
     std::iota(indices.begin(), indices.end(), 1);
     return indices;
   }
-  for (const std::wstring& key : ini.ListKeys(kPrinterSection)) {
+  ini.ListKeys(kPrinterSection, [&](std::wstring_view key) {
     // Another key's number may slip in here; it finds no entry when it is read.
-    if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9') {
-      continue;
-    }
+    if (key.size() <= prefix.size() || key[prefix.size()] < L'0' || key[prefix.size()] > L'9')
+      return;
     std::int32_t index = 0;
-    if (ParseInt(key.substr(prefix.size()), &index) && index >= 1 && index <= count) {
+    if (ParseInt(key.substr(prefix.size()), &index) && index >= 1 && index <= count)
       indices.push_back(index);
-    }
-  }
+  });
   std::sort(indices.begin(), indices.end());
   indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
   return indices;
@@ -53,21 +53,26 @@ bool ReadTable(IniFile& ini, const std::string& countKey, const std::string& pre
     std::string name;
     if (ini.ReadInt(kPrinterSection, entry + "Code", &code) &&
         ini.ReadString(kPrinterSection, entry + "Name", &name)) {
-      table->Add(code, name);
+      table->Add(code, std::move(name));
     }
   }
   return true;
 }
 
-bool ReadInkSlot(IniFile& ini, std::int32_t number, InkModel* inks) {
-  std::int32_t colorCode = 0;
-  std::int32_t inkTypeCode = 0;
-  const std::string suffix = IntToString(number);
-  return ini.ReadInt(kPrinterSection, "ColorCodeInkSlot" + suffix, &colorCode) &&
-         ini.ReadInt(kPrinterSection, "InkTypeCodeInkSlot" + suffix, &inkTypeCode) &&
-         inks->AddInkSlot(static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(colorCode),
-                          static_cast<std::uint32_t>(inkTypeCode));
-}
+/// The keys of a name and a number, one at a time.
+class NumberedKey {
+ public:
+  explicit NumberedKey(const char* name) : key_(name), nameLength_(key_.size()) {}
+
+  const std::string& With(std::int32_t number) {
+    key_.resize(nameLength_);
+    return key_ += IntToString(number);
+  }
+
+ private:
+  std::string key_;
+  std::size_t nameLength_;
+};
 
 /// Reads the slots up to the first that is not complete.
 ///
@@ -76,10 +81,18 @@ bool ReadCountedInkSlots(IniFile& ini, InkModel* inks) {
   std::int32_t count = 0;
   if (!ini.ReadInt(kPrinterSection, "PrinterInkSlotNum", &count) || count < 1) return false;
   inks->InkSlotNum = count;
+  NumberedKey colorKey("ColorCodeInkSlot");
+  NumberedKey inkTypeKey("InkTypeCodeInkSlot");
   // The count may be INT32_MAX, so a number is compared before it is raised.
   for (std::int32_t number = 0; number < count;) {
     ++number;
-    if (!ReadInkSlot(ini, number, inks)) return false;
+    std::int32_t color = 0;
+    std::int32_t inkType = 0;
+    if (!ini.ReadInt(kPrinterSection, colorKey.With(number), &color) ||
+        !ini.ReadInt(kPrinterSection, inkTypeKey.With(number), &inkType))
+      return false;
+    inks->AddInkSlot(static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(color),
+                     static_cast<std::uint32_t>(inkType));
   }
   return true;
 }

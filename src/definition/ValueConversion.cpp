@@ -26,16 +26,17 @@ bool IsAscii(wchar_t c) {
 
 /// What a number's characters can be among, at the start of text. Narrow, because the conversions
 /// of the runtimes agree on narrow ASCII.
-std::string NumberText(const std::wstring& text) {
+std::string NumberText(std::wstring_view text) {
   const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
   return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
-std::string NumberText(const std::string& text) {
+std::string NumberText(std::string_view text) {
   const auto isSpace = [](char c) { return IsAscii(c) && IsSpace(c); };
   const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
   // Only its encoding tells whether white space beyond ASCII stands in front.
-  if (begin != text.end() && !IsAscii(*begin)) return NumberText(WideText(text).c_str());
+  if (begin != text.end() && !IsAscii(*begin))
+    return NumberText(WideText(std::string(text)).c_str());
   return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
 }
 
@@ -63,19 +64,19 @@ bool ParseDoubleOf(const Text& text, double* value) {
 
 }  // namespace
 
-bool ParseInt(const std::string& text, std::int32_t* value) {
+bool ParseInt(std::string_view text, std::int32_t* value) {
   return ParseIntOf(text, value);
 }
 
-bool ParseInt(const std::wstring& text, std::int32_t* value) {
+bool ParseInt(std::wstring_view text, std::int32_t* value) {
   return ParseIntOf(text, value);
 }
 
-bool ParseDouble(const std::string& text, double* value) {
+bool ParseDouble(std::string_view text, double* value) {
   return ParseDoubleOf(text, value);
 }
 
-bool ParseDouble(const std::wstring& text, double* value) {
+bool ParseDouble(std::wstring_view text, double* value) {
   return ParseDoubleOf(text, value);
 }
 

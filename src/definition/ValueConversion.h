@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tavrin {
@@ -10,15 +11,15 @@ namespace tavrin {
 /// spaces included, text after the number is ignored ("12abc" gives 12).
 ///
 /// @return false, value untouched, when there are no digits or 32 bits cannot hold the number.
-bool ParseInt(const std::string& text, std::int32_t* value);
-bool ParseInt(const std::wstring& text, std::int32_t* value);
+bool ParseInt(std::string_view text, std::int32_t* value);
+bool ParseInt(std::wstring_view text, std::int32_t* value);
 
 /// Converts the number at the start of text ("1.5mm" gives 1.5), with the decimal point of the
 /// process's numeric locale: a full stop unless the host changed it. Every NaN is the same one.
 ///
 /// @return false, value untouched, when there is no number or a double cannot hold it.
-bool ParseDouble(const std::string& text, double* value);
-bool ParseDouble(const std::wstring& text, double* value);
+bool ParseDouble(std::string_view text, double* value);
+bool ParseDouble(std::wstring_view text, double* value);
 
 /// The integer in decimal, without padding.
 std::string IntToString(std::int32_t value);

@@ -1,5 +1,6 @@
 // The operations of InkModel that derive its categories.
 #include <map>
+#include <memory_resource>
 #include <utility>
 
 #include "ink/InkModel.h"
@@ -29,7 +30,8 @@ std::uint64_t InkOf(const NumberedInkSlot& slot) {
 bool InkModel::GroupInkSlots(std::vector<SlotGroup>* groups) const {
   groups->clear();
   groups->reserve(InkSlots.size());
-  std::map<std::uint64_t, std::size_t> groupOfInk;
+  std::pmr::monotonic_buffer_resource nodes;
+  std::pmr::map<std::uint64_t, std::size_t> groupOfInk(&nodes);
   for (const auto& slot : InkSlots) {
     const auto [entry, isNew] = groupOfInk.emplace(InkOf(*slot), groups->size());
     if (isNew) groups->emplace_back();
@@ -43,13 +45,12 @@ bool InkModel::BuildInkCategories() {
   auto modelInk = std::make_unique<InkCategoryImpl>("[Total] Model Ink");
   std::vector<SlotGroup> groups;
   GroupInkSlots(&groups);
-  for (const SlotGroup& group : groups) {
-    auto category = std::make_unique<InkCategoryImpl>(group.front()->InkNameString());
-    const bool isModelInk = ColorOf(*group.front()) != kSupportColor;
-    for (const NumberedInkSlot* slot : group) {
-      category->AddSlot(slot);
-      if (isModelInk) modelInk->AddSlot(slot);
-    }
+  for (SlotGroup& group : groups) {
+    const NumberedInkSlot& first = *group.front();
+    auto category = std::make_unique<InkCategoryImpl>(first.InkNameString());
+    if (ColorOf(first) != kSupportColor)
+      modelInk->slots.insert(modelInk->slots.end(), group.begin(), group.end());
+    category->slots = std::move(group);
     InkCategories.push_back(std::move(category));
   }
   InkCategories.push_back(std::move(modelInk));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ink/NumberedInkSlot.h"
@@ -12,7 +13,7 @@ namespace tavrin {
 /// outlive it.
 class InkCategoryImpl {
  public:
-  explicit InkCategoryImpl(const std::string& categoryName) : name(categoryName) {}
+  explicit InkCategoryImpl(std::string categoryName) : name(std::move(categoryName)) {}
   virtual ~InkCategoryImpl() = default;
   InkCategoryImpl(const InkCategoryImpl&) = delete;
   InkCategoryImpl& operator=(const InkCategoryImpl&) = delete;

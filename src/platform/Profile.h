@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "platform/PlainCopy.h"
 
@@ -31,8 +32,8 @@ class ProfileReader {
   std::uint32_t Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
                      std::uint32_t size) const;
 
-  /// The names of the keys in section, in the order of the file.
-  std::vector<std::wstring> ListKeys(const wchar_t* section) const;
+  /// Hands take the names of the keys in section, in the order of the file.
+  void ListKeys(const wchar_t* section, const std::function<void(std::wstring_view)>& take) const;
 
  private:
   class Source;

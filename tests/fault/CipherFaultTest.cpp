@@ -12,11 +12,11 @@ namespace tavrin {
 // In place of the platform's cipher: one that always refuses.
 namespace platform {
 
-bool EncryptInPlace(const unsigned char*, std::uint32_t, unsigned char*, std::uint32_t) {
+bool EncryptInPlace(unsigned char*, std::uint32_t) {
   return false;
 }
 
-bool DecryptInPlace(const unsigned char*, std::uint32_t, unsigned char*, std::uint32_t) {
+bool DecryptInPlace(unsigned char*, std::uint32_t) {
   return false;
 }
 

@@ -1,6 +1,8 @@
+#include <functional>
+#include <utility>
+
 #include <gtest/gtest.h>
 
-#include "definition/FileBytes.h"
 #include "definition/FileLoader.h"
 #include "definition/IniFile.h"
 #include "definition/PrinterConfig.h"
@@ -42,16 +44,35 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   ASSERT_TRUE(loader.SaveToFile(&copy));
   EXPECT_EQ(ReadWhole(copy.Path()), content);
 
-  unsigned char block[] = {'1', '2', '3'};
-  EXPECT_TRUE(ReadFileBytes(folder.Write("shorter", "ab"), block, 3));
-  EXPECT_EQ(std::string(block, block + 3), "ab3");
-  EXPECT_TRUE(ReadFileBytes(folder.Write("longer", "abcd"), block, 3));
-  EXPECT_EQ(std::string(block, block + 3), "abc");
-
   EXPECT_FALSE(loader.LoadFromFile(folder.Write("empty", "")));
   EXPECT_TRUE(loader.IsEmpty());
   EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("missing")));
   EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("")));
+}
+
+/// Lets others rewrite the file once its size is known.
+class WatchedLoader : public FileLoader {
+ public:
+  explicit WatchedLoader(std::function<void()> rewrite) : rewrite_(std::move(rewrite)) {}
+  bool Allocate(std::uint32_t n) override {
+    rewrite_();
+    return FileLoader::Allocate(n);
+  }
+
+ private:
+  std::function<void()> rewrite_;
+};
+
+TEST(FileLoader, AFileThatChangesAfterItsSizeWasAskedKeepsThatSize) {
+  const TestFolder folder;
+  for (const auto& [rewritten, expected] :
+       {std::pair("ab", std::string("ab\0\0", 4)), std::pair("", std::string(4, '\0')),
+        std::pair("abcdef", std::string("abcd"))}) {
+    const std::string path = folder.Write("printer.dat", "1234");
+    WatchedLoader loader([&, text = rewritten] { folder.Write("printer.dat", text); });
+    EXPECT_TRUE(loader.LoadFromFile(path));
+    EXPECT_EQ(std::string(loader.Data(), loader.Data() + loader.Size()), expected);
+  }
 }
 
 TEST(TemporaryPath, NameComesFromTheHostAndTheDefinition) {

@@ -47,7 +47,11 @@ bool IsKnown(const TextFormat& format, const Bytes& plain) {
     probe[probe.size() - format.unitLength + format.lowByte] = static_cast<unsigned char>(c);
   }
   const PlainCopy copy(probe);
-  return !IniSnapshot(copy.Path().wstring()).ListKeys(kPrinterSection).empty();
+  bool isKnown = false;
+  IniSnapshot(copy.Path().wstring()).ListKeys(kPrinterSection, [&](std::wstring_view) {
+    isKnown = true;
+  });
+  return isKnown;
 }
 
 LineIndex IndexOf(const Bytes& plain) {
@@ -82,8 +86,9 @@ Reading::Reading(const Bytes& plain) : lines(IndexOf(plain)), knownKeys(ListKnow
     const char* governor = FactsOf(KnownKeyOf(read.key, &number)->Shape()).governor;
     if (governor != nullptr) numbersAskedFor.emplace(governor, number);
   }
-  for (const std::wstring& key : ini.ListKeys(kPrinterSection))
-    listedKeys.insert(Folded(NarrowCopy(key)));
+  ini.ListKeys(kPrinterSection, [&](std::wstring_view key) {
+    listedKeys.insert(Folded(NarrowCopy(std::wstring(key))));
+  });
   ReadModeList(ini, &modes);
   if (!modes.empty()) ReadLimitationModeList(ini, &limitationModes);
 }

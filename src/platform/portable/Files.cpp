@@ -14,16 +14,15 @@ bool FileExists(const std::wstring& path) {
   return ToNarrow(path, &narrow) && stat(narrow.c_str(), &status) == 0;
 }
 
-bool GetRegularFileSize(const std::string& path, std::uint64_t* size) {
-  return OpenRegularFile(path, size).IsOpen();
-}
-
-bool ReadRegularFile(const std::string& path, unsigned char* block, std::uint32_t n) {
+bool ReadRegularFile(const std::string& path,
+                     const std::function<unsigned char*(std::uint32_t)>& blockFor) {
   std::uint64_t size = 0;
   std::size_t length = 0;
   const Descriptor file = OpenRegularFile(path, &size);
-  if (file.IsOpen()) ReadUpTo(file, block, n, &length);
-  return file.IsOpen();
+  const auto n = static_cast<std::uint32_t>(size);
+  unsigned char* block = file.IsOpen() ? blockFor(n) : nullptr;
+  if (block != nullptr) ReadUpTo(file, block, n, &length);
+  return block != nullptr;
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {

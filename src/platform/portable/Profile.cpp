@@ -4,13 +4,17 @@
 #include <cerrno>
 #include <new>
 #include <string_view>
+#include <type_traits>
 #include <utility>
+#include <variant>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/TextEncoding.h"
+#include "platform/portable/Ascii.h"
+#include "platform/portable/AskedName.h"
 #include "platform/portable/Descriptor.h"
 #include "platform/portable/PlainCopyState.h"
 #include "platform/portable/ProfileIndex.h"
@@ -92,12 +96,12 @@ Place<Unit> FindPlace(std::basic_string_view<Unit> text, std::wstring_view secti
     const std::size_t end = text.size() - rest.size();
     wide.clear();
     encoding->AppendWide(units, &wide);
-    const ProfileLine line = ParseLine(wide);
-    if (line.kind == ProfileLine::Kind::Header) {
+    const ProfileLine<wchar_t> line = ParseLine<wchar_t>(wide);
+    if (line.IsHeader()) {
       if (place.hasSection) break;
       if (SameName(line.name, section)) place = {end, end, true};
     } else if (place.hasSection && line.IsKey() && SameName(line.name, key)) {
-      const bool hasValue = line.kind == ProfileLine::Kind::Key;
+      const bool hasValue = line.kind == ProfileLine<wchar_t>::Kind::Key;
       const auto name = Spelled(units.substr(0, units.find('=')));
       return {begin, end, true, true, hasValue, name, std::wstring(line.value)};
     } else if (place.hasSection && (line.IsKey() || (line.IsComment() && !hasKeys))) {
@@ -133,38 +137,74 @@ std::string Edit(const std::string& bytes, std::wstring_view section, std::wstri
   return Encoding::ToBytes(text).append(bytes, bytes.size() - incomplete, incomplete);
 }
 
+/// What ProfileReader::Read does.
+template <typename Char>
+std::uint32_t ReadValue(const ProfileIndex<Char>& index, const wchar_t* section, const wchar_t* key,
+                        wchar_t* buffer, std::uint32_t size) {
+  const auto found = index.Find(AskedName<Char>(section).View(), AskedName<Char>(key).View());
+  const auto value = CutToUnits(found, size - 1);
+  *std::copy(value.begin(), value.end(), buffer) = L'\0';
+  return static_cast<std::uint32_t>(value.size());
+}
+
+/// What ProfileReader::ListKeys does.
+template <typename Char>
+void ListNames(const ProfileIndex<Char>& index, const wchar_t* section,
+               const std::function<void(std::wstring_view)>& take) {
+  std::wstring wide;
+  index.ListKeys(AskedName<Char>(section).View(), [&](const auto& name) {
+    wide.resize(name.size());
+    std::copy(name.begin(), name.end(), wide.begin());
+    take(wide);
+  });
+}
+
 }  // namespace
 
-class ProfileReader::Source : public ProfileIndex {
+class ProfileReader::Source {
  public:
-  using ProfileIndex::ProfileIndex;
+  explicit Source(std::string bytes) : index_(IndexOf(std::move(bytes))) {}
+
+  /// Calls use with the index of the file's text.
+  template <typename Use>
+  auto With(Use use) const {
+    return std::visit(use, index_);
+  }
+
+ private:
+  using Index = std::variant<ProfileIndex<char>, ProfileIndex<wchar_t>>;
+
+  static Index IndexOf(std::string bytes) {
+    if (IsAscii<char>(bytes)) return Index(std::in_place_index<0>, std::move(bytes));
+    return Index(std::in_place_index<1>, DecodeProfile(bytes));
+  }
+
+  Index index_;
 };
 
 ProfileReader::ProfileReader(const std::wstring& path) {
   std::string bytes;
   ReadFile(NarrowPath(path), &bytes);
-  source_ = std::make_unique<const Source>(DecodeProfile(bytes));
+  source_ = std::make_unique<const Source>(std::move(bytes));
 }
 
 ProfileReader::ProfileReader(const PlainCopy& copy) {
   std::string bytes;
   ReadFile(copy.state_->file, copy.state_->size, &bytes);
-  source_ = std::make_unique<const Source>(DecodeProfile(bytes));
+  source_ = std::make_unique<const Source>(std::move(bytes));
 }
 
 ProfileReader::~ProfileReader() = default;
 
 std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
                                   std::uint32_t size) const {
-  const std::wstring_view value =
-      CutToUnits(source_->Find(StripSpaces(section), StripSpaces(key)), size - 1);
-  value.copy(buffer, value.size());
-  buffer[value.size()] = L'\0';
-  return static_cast<std::uint32_t>(value.size());
+  return source_->With(
+      [&](const auto& index) { return ReadValue(index, section, key, buffer, size); });
 }
 
-std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
-  return source_->ListKeys(StripSpaces(section));
+void ProfileReader::ListKeys(const wchar_t* section,
+                             const std::function<void(std::wstring_view)>& take) const {
+  source_->With([&](const auto& index) { ListNames(index, section, take); });
 }
 
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

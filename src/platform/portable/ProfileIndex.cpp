@@ -1,6 +1,7 @@
 #include "platform/portable/ProfileIndex.h"
 
 #include <cstring>
+#include <type_traits>
 #include <utility>
 
 #include "platform/portable/ProfileText.h"
@@ -9,68 +10,76 @@ namespace tavrin::platform {
 
 namespace {
 
-/// Two characters, A to Z as a to z. Those beyond Unicode's last, which no file holds, may come out
-/// as anything.
-std::uint64_t FoldPair(std::uint64_t pair) {
-  constexpr std::uint64_t kEach = 0x0000000100000001;
-  constexpr std::uint64_t kTop = kEach << 31;
-  const std::uint64_t fromA = pair + (kTop - kEach * 'A');
-  const std::uint64_t beyondZ = pair + (kTop - kEach * ('Z' + 1));
-  return pair | (fromA & ~beyondZ & kTop) >> 26;  // bit 5 makes a letter small
+/// As many characters as fit, each in a lane of its own.
+using Word = std::uint64_t;
+
+template <typename Char>
+constexpr unsigned kLaneBits = 8 * sizeof(Char);
+
+/// Characters with A to Z as a to z. Those that fill their lane to the top, which no text holds,
+/// may come out as anything.
+template <typename Char>
+Word Fold(Word word) {
+  constexpr Word kEach = ~Word{0} / ((Word{1} << kLaneBits<Char>)-1);
+  constexpr Word kTop = kEach << (kLaneBits<Char> - 1);
+  const Word fromA = word + (kTop - kEach * 'A');
+  const Word beyondZ = word + (kTop - kEach * ('Z' + 1));
+  return word | (fromA & ~beyondZ & kTop) >> (kLaneBits<Char> - 6);  // bit 5 makes a letter small
 }
 
-/// Multiplying carries differences upwards alone, so the upper half comes down after each pair.
-std::uint64_t Mix(std::uint64_t hash, std::uint64_t pair) {
-  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  hash = (hash ^ FoldPair(pair)) * kMultiplier;
+/// Multiplying carries differences upwards alone, so the upper half comes down each time, and
+/// twice, so that no later word can take a difference back whose way it knows.
+Word Mix(Word hash, Word word) {
+  constexpr Word kMultiplier = 0x9E3779B97F4A7C15;
+  hash = (hash ^ word) * kMultiplier;
+  hash = (hash ^ hash >> 32) * kMultiplier;
   return hash ^ hash >> 32;
 }
 
 /// Hashes name so that equal names (as SameName has it) of equal seeds get equal hashes.
-std::uint64_t HashName(std::wstring_view name, std::uint64_t seed) {
-  std::uint64_t hash = Mix(seed, 0);
-  for (std::uint64_t pair = 0; name.size() >= 2; name.remove_prefix(2)) {
-    static_assert(sizeof pair == 2 * sizeof(wchar_t));
-    std::memcpy(&pair, name.data(), sizeof pair);
-    hash = Mix(hash, pair);
+template <typename Char>
+std::uint64_t HashName(std::basic_string_view<Char> name, std::uint64_t seed) {
+  constexpr std::size_t kLanes = sizeof(Word) / sizeof(Char);
+  Word hash = seed;
+  for (Word word = 0; name.size() >= kLanes; name.remove_prefix(kLanes)) {
+    std::memcpy(&word, name.data(), sizeof word);
+    hash = Mix(hash, Fold<Char>(word));
   }
-  return Mix(hash, name.empty() ? 0 : static_cast<std::uint32_t>(name[0]));
+  Word rest = 0;
+  for (const Char c : name)
+    rest = rest << kLaneBits<Char> | static_cast<std::make_unsigned_t<Char>>(c);
+  return Mix(hash, Fold<Char>(rest));
 }
 
 }  // namespace
 
-ProfileIndex::ProfileIndex(std::wstring text)
+template <typename Char>
+ProfileIndex<Char>::ProfileIndex(std::basic_string<Char> text)
     : text_(std::move(text)), seed_(reinterpret_cast<std::uintptr_t>(text_.data())) {
   AddLines();
   FillSlots();
 }
 
-std::wstring_view ProfileIndex::Find(std::wstring_view section, std::wstring_view key) const {
+template <typename Char>
+auto ProfileIndex<Char>::Find(View section, View key) const -> View {
   const std::size_t owner = SectionNumberOf(section);
   const std::size_t number = owner == 0 ? 0 : NumberOf(owner, key);
-  return number == 0 ? std::wstring_view() : entries_[number - 1].value;
+  return number == 0 ? View() : entries_[number - 1].value;
 }
 
-std::vector<std::wstring> ProfileIndex::ListKeys(std::wstring_view section) const {
-  std::vector<std::wstring> keys;
-  const std::size_t owner = SectionNumberOf(section);
-  // The keys of a section follow its header directly.
-  for (std::size_t i = owner; owner != 0 && i < entries_.size() && entries_[i].owner == owner; ++i)
-    keys.emplace_back(entries_[i].name);
-  return keys;
-}
-
-void ProfileIndex::Add(std::size_t owner, std::wstring_view name, std::wstring_view value) {
+template <typename Char>
+void ProfileIndex<Char>::Add(std::size_t owner, View name, View value) {
   entries_.push_back({HashName(name, seed_ + owner), owner, name, value});
 }
 
-void ProfileIndex::AddLines() {
+template <typename Char>
+void ProfileIndex<Char>::AddLines() {
   entries_.reserve(text_.size() / 16);  // the lines of a definition are longer than that
   std::size_t section = 0;
-  std::wstring_view rest = text_;
+  View rest = text_;
   while (!rest.empty()) {
-    const ProfileLine line = ParseLine(TakeLine(&rest));
-    if (line.kind == ProfileLine::Kind::Header) {
+    const ProfileLine<Char> line = ParseLine(TakeLine(&rest));
+    if (line.IsHeader()) {
       Add(0, line.name, {});
       section = entries_.size();
     } else if (line.IsKey() && section != 0) {
@@ -79,7 +88,8 @@ void ProfileIndex::AddLines() {
   }
 }
 
-void ProfileIndex::FillSlots() {
+template <typename Char>
+void ProfileIndex<Char>::FillSlots() {
   std::size_t size = 2;
   while (size < 2 * entries_.size())
     size *= 2;
@@ -92,8 +102,8 @@ void ProfileIndex::FillSlots() {
 }
 
 /// @return the slot of that entry, or the free one in its place.
-std::size_t ProfileIndex::SlotOf(std::uint64_t hash, std::size_t owner,
-                                 std::wstring_view name) const {
+template <typename Char>
+std::size_t ProfileIndex<Char>::SlotOf(std::uint64_t hash, std::size_t owner, View name) const {
   const std::size_t mask = slots_.size() - 1;
   std::size_t slot = static_cast<std::size_t>(hash) & mask;
   while (slots_[slot] != 0) {
@@ -104,14 +114,19 @@ std::size_t ProfileIndex::SlotOf(std::uint64_t hash, std::size_t owner,
   return slot;
 }
 
-std::size_t ProfileIndex::NumberOf(std::size_t owner, std::wstring_view name) const {
+template <typename Char>
+std::size_t ProfileIndex<Char>::NumberOf(std::size_t owner, View name) const {
   return slots_[SlotOf(HashName(name, seed_ + owner), owner, name)];
 }
 
-std::size_t ProfileIndex::SectionNumberOf(std::wstring_view name) const {
+template <typename Char>
+std::size_t ProfileIndex<Char>::SectionNumberOf(View name) const {
   // A definition has one section, so the first entry, a header, nearly always is the one.
   const bool isFirst = !entries_.empty() && SameName(entries_.front().name, name);
   return isFirst ? 1 : NumberOf(0, name);
 }
+
+template class ProfileIndex<char>;
+template class ProfileIndex<wchar_t>;
 
 }  // namespace tavrin::platform

@@ -15,46 +15,52 @@ constexpr char32_t kHighSurrogates = 0xD800;
 constexpr char32_t kLowSurrogates = 0xDC00;
 constexpr char32_t kSurrogatesPerHalf = 0x400;
 
-wchar_t Fold(wchar_t c) {
-  return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
+template <typename Char>
+Char Fold(Char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<Char>(c + ('a' - 'A')) : c;
 }
 
-bool IsAstral(wchar_t c) {
-  return static_cast<char32_t>(c) >= kFirstAstral;
+template <typename Char>
+bool IsAstral(Char c) {
+  return sizeof c > 1 && static_cast<char32_t>(c) >= kFirstAstral;
 }
 
 bool IsSurrogateOf(char32_t half, char32_t c) {
   return c >= half && c < half + kSurrogatesPerHalf;
 }
 
-std::wstring_view Unquote(std::wstring_view value) {
+template <typename Char>
+std::basic_string_view<Char> Unquote(std::basic_string_view<Char> value) {
   const bool isQuoted = value.size() >= 2 && value.front() == value.back() &&
-                        (value.front() == L'"' || value.front() == L'\'');
+                        (value.front() == '"' || value.front() == '\'');
   return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
 }  // namespace
 
-ProfileLine ParseLine(std::wstring_view line) {
-  using Kind = ProfileLine::Kind;
-  const std::wstring_view text = Trim(line);
+template <typename Char>
+ProfileLine<Char> ParseLine(std::basic_string_view<Char> line) {
+  using Kind = typename ProfileLine<Char>::Kind;
+  const std::basic_string_view<Char> text = Trim(line);
   if (text.empty()) return {};
-  if (text.front() == L';') return {Kind::Comment, {}, {}};
-  if (text.front() == L'[') return {Kind::Header, Spelled(text.substr(1, text.find(L']') - 1)), {}};
-  const std::size_t equals = text.find(L'=');
-  if (equals == std::wstring_view::npos) return {Kind::BareKey, Spelled(text), {}};
+  if (text.front() == ';') return {Kind::Comment, {}, {}};
+  if (text.front() == '[') return {Kind::Header, Spelled(text.substr(1, text.find(']') - 1)), {}};
+  const std::size_t equals = text.find('=');
+  if (equals == text.npos) return {Kind::BareKey, Spelled(text), {}};
   return {Kind::Key, Spelled(text.substr(0, equals)), Spelled(text.substr(equals + 1))};
 }
 
-std::wstring_view ReadableValue(std::wstring_view written) {
+template <typename Char>
+std::basic_string_view<Char> ReadableValue(std::basic_string_view<Char> written) {
   constexpr std::size_t kModulus = 0x10000;
-  const std::wstring_view value = Unquote(written);
+  const std::basic_string_view<Char> value = Unquote(written);
   if (value.size() < kModulus / 2) return value;
-  const auto astral = std::count_if(value.begin(), value.end(), IsAstral);
+  const auto astral = std::count_if(value.begin(), value.end(), IsAstral<Char>);
   return CutToUnits(value, (value.size() + static_cast<std::size_t>(astral)) % kModulus);
 }
 
-std::wstring_view CutToUnits(std::wstring_view text, std::size_t limit) {
+template <typename Char>
+std::basic_string_view<Char> CutToUnits(std::basic_string_view<Char> text, std::size_t limit) {
   if (text.size() <= limit / 2) return text;
   std::size_t length = 0;
   for (std::size_t units = 0; length < text.size(); ++length) {
@@ -64,18 +70,27 @@ std::wstring_view CutToUnits(std::wstring_view text, std::size_t limit) {
   return text.substr(0, length);
 }
 
+template <typename Char>
+bool SameName(std::basic_string_view<Char> a, std::basic_string_view<Char> b) {
+  const auto isSame = [](Char c, Char d) { return Fold(c) == Fold(d); };
+  return a.size() == b.size() && (a == b || std::equal(a.begin(), a.end(), b.begin(), isSame));
+}
+
+template ProfileLine<char> ParseLine(std::string_view);
+template ProfileLine<wchar_t> ParseLine(std::wstring_view);
+template std::string_view ReadableValue(std::string_view);
+template std::wstring_view ReadableValue(std::wstring_view);
+template std::string_view CutToUnits(std::string_view, std::size_t);
+template std::wstring_view CutToUnits(std::wstring_view, std::size_t);
+template bool SameName(std::string_view, std::string_view);
+template bool SameName(std::wstring_view, std::wstring_view);
+
 std::wstring_view StripSpaces(std::wstring_view name) {
   while (!name.empty() && name.front() == L' ')
     name.remove_prefix(1);
   while (!name.empty() && name.back() == L' ')
     name.remove_suffix(1);
   return name;
-}
-
-bool SameName(std::wstring_view a, std::wstring_view b) {
-  const auto isSame = [](wchar_t c, wchar_t d) { return Fold(c) == Fold(d); };
-  return a.size() == b.size() && (std::equal(a.begin(), a.end(), b.begin()) ||
-                                  std::equal(a.begin(), a.end(), b.begin(), isSame));
 }
 
 void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {

@@ -54,32 +54,40 @@ std::basic_string_view<Unit> Spelled(std::basic_string_view<Unit> part) {
   return text.substr(0, text.find(Unit{}));
 }
 
+// What follows is made for char, where a text is ASCII, and for wchar_t.
+
 /// A line without '=' is a key without a value.
+template <typename Char>
 struct ProfileLine {
   enum class Kind { Empty, Comment, Header, Key, BareKey };
 
   Kind kind = Kind::Empty;
-  std::wstring_view name = {};   ///< of the section or the key
-  std::wstring_view value = {};  ///< as written, with its quotes
+  std::basic_string_view<Char> name = {};   ///< of the section or the key
+  std::basic_string_view<Char> value = {};  ///< as written, with its quotes
 
+  bool IsHeader() const { return kind == Kind::Header; }
   bool IsComment() const { return kind == Kind::Comment; }
   bool IsKey() const { return kind == Kind::Key || kind == Kind::BareKey; }
 };
 
-ProfileLine ParseLine(std::wstring_view line);
+template <typename Char>
+ProfileLine<Char> ParseLine(std::basic_string_view<Char> line);
 
 /// What readers get of a value as written: without the one pair of equal quotes round it, and cut
 /// to its length modulo 65536, as the profile functions keep lengths in 16 bits.
-std::wstring_view ReadableValue(std::wstring_view written);
+template <typename Char>
+std::basic_string_view<Char> ReadableValue(std::basic_string_view<Char> written);
 
 /// The start of text that fills at most limit UTF-16 units, the unit of all lengths on Windows.
-std::wstring_view CutToUnits(std::wstring_view text, std::size_t limit);
+template <typename Char>
+std::basic_string_view<Char> CutToUnits(std::basic_string_view<Char> text, std::size_t limit);
+
+/// Names are compared without regard to the case of ASCII letters.
+template <typename Char>
+bool SameName(std::basic_string_view<Char> a, std::basic_string_view<Char> b);
 
 /// A section or key as the caller names it, without the spaces round it.
 std::wstring_view StripSpaces(std::wstring_view name);
-
-/// Names are compared without regard to the case of ASCII letters.
-bool SameName(std::wstring_view a, std::wstring_view b);
 
 /// The user's narrow encoding.
 class NarrowEncoding {

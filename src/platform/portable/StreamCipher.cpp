@@ -1,7 +1,6 @@
 #include "platform/StreamCipher.h"
 
-#include <algorithm>
-
+#include "platform/FilePassword.h"
 #include "platform/portable/Rc4.h"
 #include "platform/portable/Sha1.h"
 
@@ -9,24 +8,26 @@ namespace tavrin::platform {
 
 namespace {
 
-Rc4Key DeriveFileKey(const unsigned char* password, std::uint32_t passwordSize) {
-  const auto digest = Sha1({reinterpret_cast<const char*>(password), passwordSize});
-  Rc4Key key{};
-  std::copy_n(digest.begin(), key.size(), key.begin());
+constexpr Rc4Key DeriveFileKey() {
+  const Sha1State digest = Sha1(kFilePassword);
+  Rc4Key key = {};
+  for (std::size_t i = 0; i < key.size(); ++i)
+    key[i] = static_cast<unsigned char>(digest[i / 4] >> (24 - 8 * (i % 4)));
   return key;
 }
 
+// The key never changes, so the compiler derives it.
+constexpr Rc4State kStart = ScheduleRc4(DeriveFileKey());
+
 }  // namespace
 
-bool EncryptInPlace(const unsigned char* password, std::uint32_t passwordSize, unsigned char* block,
-                    std::uint32_t n) {
-  ApplyRc4(DeriveFileKey(password, passwordSize), block, n);
+bool EncryptInPlace(unsigned char* block, std::uint32_t n) {
+  ApplyRc4(kStart, block, n);
   return true;
 }
 
-bool DecryptInPlace(const unsigned char* password, std::uint32_t passwordSize, unsigned char* block,
-                    std::uint32_t n) {
-  return EncryptInPlace(password, passwordSize, block, n);
+bool DecryptInPlace(unsigned char* block, std::uint32_t n) {
+  return EncryptInPlace(block, n);
 }
 
 }  // namespace tavrin::platform

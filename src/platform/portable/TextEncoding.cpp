@@ -1,5 +1,6 @@
 #include "platform/TextEncoding.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -27,7 +28,8 @@ bool ToNarrow(const std::wstring& wide, std::string* narrow) {
   return Succeeds([&] {
     const std::wstring_view text = wide.c_str();
     if (IsAscii(text)) {
-      *narrow = std::string(text.begin(), text.end());
+      narrow->resize(text.size());
+      std::copy(text.begin(), text.end(), narrow->begin());
       return;
     }
     std::string encoded;
@@ -40,7 +42,8 @@ bool ToWide(const std::string& narrow, std::wstring* wide) {
   return Succeeds([&] {
     const std::string_view text = narrow.c_str();
     if (IsAscii(text)) {
-      *wide = std::wstring(text.begin(), text.end());
+      wide->resize(text.size());
+      std::copy(text.begin(), text.end(), wide->begin());
       return;
     }
     std::wstring decoded;

@@ -35,15 +35,14 @@ bool FileExists(const std::wstring& path) {
   return std::filesystem::exists(std::filesystem::path(path), error);
 }
 
-bool GetRegularFileSize(const std::string& path, std::uint64_t* size) {
-  return OpenRegularFile(path, size) != nullptr;
-}
-
-bool ReadRegularFile(const std::string& path, unsigned char* block, std::uint32_t n) {
+bool ReadRegularFile(const std::string& path,
+                     const std::function<unsigned char*(std::uint32_t)>& blockFor) {
   std::uint64_t size = 0;
   const File file = OpenRegularFile(path, &size);
-  if (file != nullptr) static_cast<void>(std::fread(block, 1, n, file.get()));
-  return file != nullptr;
+  const auto n = static_cast<std::uint32_t>(size);
+  unsigned char* block = file != nullptr ? blockFor(n) : nullptr;
+  if (block != nullptr) static_cast<void>(std::fread(block, 1, n, file.get()));
+  return block != nullptr;
 }
 
 std::FILE* CreateOwnerOnlyFile(const std::string& path) {

@@ -1,5 +1,7 @@
 #include "platform/Profile.h"
 
+#include <vector>
+
 #include <windows.h>
 
 #include "platform/windows/PlainCopyState.h"
@@ -36,7 +38,8 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
   return GetPrivateProfileStringW(section, key, L"", buffer, size, source_->Path());
 }
 
-std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const {
+void ProfileReader::ListKeys(const wchar_t* section,
+                             const std::function<void(std::wstring_view)>& take) const {
   // Each name ends in a NUL, the list in one more. A list that fills the buffer but for two
   // characters has been cut.
   std::vector<wchar_t> buffer(65536);
@@ -47,12 +50,11 @@ std::vector<std::wstring> ProfileReader::ListKeys(const wchar_t* section) const 
     if (length < size - 2 || size > kLongestList / 2) break;
     buffer.resize(2 * buffer.size());
   }
-  std::vector<std::wstring> keys;
   for (const wchar_t* key = buffer.data(); key < buffer.data() + length;) {
-    keys.emplace_back(key);
-    key += keys.back().size() + 1;
+    const std::wstring_view name = key;
+    take(name);
+    key += name.size() + 1;
   }
-  return keys;
 }
 
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,

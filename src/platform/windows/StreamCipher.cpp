@@ -3,6 +3,8 @@
 #include <windows.h>
 #include <wincrypt.h>
 
+#include "platform/FilePassword.h"
+
 namespace tavrin::platform {
 
 namespace {
@@ -26,12 +28,12 @@ HCRYPTPROV AcquireProvider() {
 
 /// Derives the RC4 key; false leaves it as it was. Provider, hash and key stay open on purpose: a
 /// process derives a handful of keys, and they go with it.
-bool DeriveFileKey(const unsigned char* password, std::uint32_t passwordSize, HCRYPTKEY* key) {
+bool DeriveFileKey(HCRYPTKEY* key) {
   try {
     const HCRYPTPROV provider = AcquireProvider();
     HCRYPTHASH hash = 0;
     Require(CryptCreateHash(provider, CALG_SHA1, 0, 0, &hash));
-    Require(CryptHashData(hash, password, passwordSize, 0));
+    Require(CryptHashData(hash, kFilePassword, sizeof kFilePassword, 0));
     Require(CryptDeriveKey(provider, CALG_RC4, hash, kKeyLength128, key));
     return true;
   } catch (int) {
@@ -41,18 +43,16 @@ bool DeriveFileKey(const unsigned char* password, std::uint32_t passwordSize, HC
 
 }  // namespace
 
-bool EncryptInPlace(const unsigned char* password, std::uint32_t passwordSize, unsigned char* block,
-                    std::uint32_t n) {
+bool EncryptInPlace(unsigned char* block, std::uint32_t n) {
   HCRYPTKEY key = 0;
-  DeriveFileKey(password, passwordSize, &key);  // CryptEncrypt refuses the key 0
+  DeriveFileKey(&key);  // CryptEncrypt refuses the key 0
   DWORD length = n;
   return CryptEncrypt(key, 0, TRUE, 0, block, &length, n) == TRUE;
 }
 
-bool DecryptInPlace(const unsigned char* password, std::uint32_t passwordSize, unsigned char* block,
-                    std::uint32_t n) {
+bool DecryptInPlace(unsigned char* block, std::uint32_t n) {
   HCRYPTKEY key = 0;
-  DeriveFileKey(password, passwordSize, &key);  // CryptDecrypt refuses the key 0
+  DeriveFileKey(&key);  // CryptDecrypt refuses the key 0
   DWORD length = n;
   return CryptDecrypt(key, 0, TRUE, 0, block, &length) == TRUE;
 }
