@@ -28,7 +28,8 @@
 /// 9. Memory. Arrays that the library hands out belong to the caller, who frees them with the C++
 ///    `delete[]` of the runtime that the library is built with; there is no function for it. Only
 ///    an exhausted allocation can leave a function as a C++ exception. It then has recorded and
-///    handed out nothing and left no file; after TavrinInitialize() no definition is loaded.
+///    handed out nothing and left no file; after TavrinInitialize() no definition is loaded. On
+///    Windows the process may end instead where not even the exception finds memory.
 #ifndef TAVRIN_LIB_H
 #define TAVRIN_LIB_H
 
