@@ -11,11 +11,13 @@ WideText::WideText(const std::string& narrow) : text_(short_) {
   // Every encoding has ASCII in its place, so the names of keys take neither memory nor a codec.
   if (narrow.size() < std::size(short_)) {
     unsigned bits = 0;
-    for (std::size_t i = 0; i <= narrow.size(); ++i) {
-      const auto byte = static_cast<unsigned char>(narrow[i]);  // in the end the NUL
+    wchar_t* end = short_;
+    for (const char c : narrow) {
+      const auto byte = static_cast<unsigned char>(c);
       bits |= byte;
-      short_[i] = byte;
+      *end++ = byte;
     }
+    *end = L'\0';
     if (bits < 0x80) return;
   }
   if (!ToWide(narrow, &long_)) throw std::bad_alloc();

@@ -13,18 +13,16 @@ namespace {
 /// As many characters as fit, each in a lane of its own.
 using Word = std::uint64_t;
 
-template <typename Char>
-constexpr unsigned kLaneBits = 8 * sizeof(Char);
-
 /// Characters with A to Z as a to z. Those that fill their lane to the top, which no text holds,
 /// may come out as anything.
 template <typename Char>
 Word Fold(Word word) {
-  constexpr Word kEach = ~Word{0} / ((Word{1} << kLaneBits<Char>)-1);
-  constexpr Word kTop = kEach << (kLaneBits<Char> - 1);
+  constexpr unsigned kLaneBits = 8 * sizeof(Char);
+  constexpr Word kEach = ~Word{0} / ((Word{1} << kLaneBits) - 1);
+  constexpr Word kTop = kEach << (kLaneBits - 1);
   const Word fromA = word + (kTop - kEach * 'A');
   const Word beyondZ = word + (kTop - kEach * ('Z' + 1));
-  return word | (fromA & ~beyondZ & kTop) >> (kLaneBits<Char> - 6);  // bit 5 makes a letter small
+  return word | (fromA & ~beyondZ & kTop) >> (kLaneBits - 6);  // bit 5 makes a letter small
 }
 
 /// Multiplying carries differences upwards alone, so the upper half comes down each time, and
@@ -47,7 +45,7 @@ std::uint64_t HashName(std::basic_string_view<Char> name, std::uint64_t seed) {
   }
   Word rest = 0;
   for (const Char c : name)
-    rest = rest << kLaneBits<Char> | static_cast<std::make_unsigned_t<Char>>(c);
+    rest = rest << 8 * sizeof c | static_cast<std::make_unsigned_t<Char>>(c);
   return Mix(hash, Fold<Char>(rest));
 }
 
