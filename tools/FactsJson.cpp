@@ -20,15 +20,15 @@ Json OrNull(const std::optional<std::string>& text) {
 
 Json ModesOf(const PrinterFacts& facts) {
   Json modes = Json::array();
-  for (const ModeFacts& mode : facts.modes) {
+  for (const tavrinlib::PrintMode& mode : facts.modes) {
     modes.push_back({{"index", modes.size()},
                      {"number", mode.number},
-                     {"sliceUm", mode.sliceUm},
+                     {"sliceUm", mode.sliceHeight.count},
                      {"firstValue", mode.firstValue},
                      {"secondValue", mode.secondValue},
-                     {"layers", OrNull(mode.layers)},
+                     {"layers", OrNull(mode.sliceCount)},
                      {"limited", mode.limited},
-                     {"continuousLimit", OrNull(mode.continuousLimit)}});
+                     {"continuousLimit", OrNull(mode.limitedContinuous)}});
   }
   return modes;
 }
@@ -36,11 +36,12 @@ Json ModesOf(const PrinterFacts& facts) {
 Json SupportOf(const PrinterFacts& facts) {
   Json sides = Json::array();
   for (const SideSupportFacts& side : facts.sideSupport) {
-    sides.push_back({{"modelHeightUm", side.modelHeightUm}, {"thicknessUm", side.thicknessUm}});
+    sides.push_back(
+        {{"modelHeightUm", side.modelHeight.count}, {"thicknessUm", side.thickness.count}});
   }
-  return {{"topThicknessUm", facts.topSupportUm},
+  return {{"topThicknessUm", facts.topSupport.count},
           {"sideThicknesses", sides},
-          {"detachLayerUm", facts.detachLayerUm},
+          {"detachLayerUm", facts.detachLayer.count},
           {"sizeCode", facts.supportSizeCode}};
 }
 
@@ -50,18 +51,18 @@ Json MachineOf(const PrinterFacts& facts) {
           {"wrapReduction", facts.wrapReduction},
           {"autoCleaning", facts.autoCleaning},
           {"checkNozzleWhilePrinting", facts.nozzleCheck},
-          {"headBandMm", facts.headBandMm},
+          {"headBandMm", facts.headBand.count},
           {"chippingAllowanceSetting", facts.chippingAllowanceSetting}};
 }
 
 Json SlotsOf(const PrinterFacts& facts) {
   Json slots = Json::array();
-  for (const SlotFacts& slot : facts.slots) {
+  for (const tavrinlib::Slot& slot : facts.slots) {
     slots.push_back({{"number", slot.number},
                      {"colorCode", slot.colorCode},
                      {"inkTypeCode", slot.inkTypeCode},
-                     {"inkId", ToUtf8(slot.id)},
-                     {"inkName", slot.valid ? Json(ToUtf8(slot.name)) : Json()},
+                     {"inkId", ToUtf8(slot.inkId)},
+                     {"inkName", slot.valid ? Json(ToUtf8(slot.inkName)) : Json()},
                      {"valid", slot.valid}});
   }
   return slots;
@@ -69,7 +70,7 @@ Json SlotsOf(const PrinterFacts& facts) {
 
 Json CategoriesOf(const PrinterFacts& facts) {
   Json categories = Json::array();
-  for (const std::vector<std::int32_t>& slots : facts.categories)
+  for (const tavrinlib::Category& slots : facts.categories)
     categories.push_back({{"index", categories.size()}, {"slotNumbers", slots}});
   return categories;
 }
@@ -85,7 +86,7 @@ std::string FactsAsJson(const PrinterFacts& facts) {
                       {{"widthUm", facts.widthUm},
                        {"depthUm", facts.depthUm},
                        {"heightUm", facts.heightUm},
-                       {"printMarginUm", facts.printMarginUm}}},
+                       {"printMarginUm", facts.printMargin.count}}},
                      {"printModes", ModesOf(facts)},
                      {"defaultModeNumber", facts.defaultModeNumber},
                      {"support", SupportOf(facts)},

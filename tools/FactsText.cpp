@@ -38,12 +38,12 @@ void ShowBuildVolume(const PrinterFacts& facts, Report* report) {
   report->Value("Width", Millimetres(facts.widthUm));
   report->Value("Depth", Millimetres(facts.depthUm));
   report->Value("Height", Millimetres(facts.heightUm));
-  report->Value("Print margin", Millimetres(facts.printMarginUm));
+  report->Value("Print margin", Millimetres(facts.printMargin.count));
 }
 
 std::string DefaultMode(const PrinterFacts& facts) {
   const auto& modes = facts.modes;
-  const auto mode = std::find_if(modes.begin(), modes.end(), [&](const ModeFacts& m) {
+  const auto mode = std::find_if(modes.begin(), modes.end(), [&](const tavrinlib::PrintMode& m) {
     return m.number == facts.defaultModeNumber;
   });
   return std::to_string(facts.defaultModeNumber) +
@@ -54,11 +54,11 @@ std::string DefaultMode(const PrinterFacts& facts) {
 void ShowModes(const PrinterFacts& facts, Report* report) {
   report->Section("Print modes");
   std::vector<Report::Row> rows;
-  for (const ModeFacts& mode : facts.modes) {
+  for (const tavrinlib::PrintMode& mode : facts.modes) {
     rows.push_back({std::to_string(rows.size()), std::to_string(mode.number),
-                    std::to_string(mode.sliceUm), std::to_string(mode.firstValue),
-                    std::to_string(mode.secondValue), OrNone(mode.layers),
-                    mode.limited ? "yes" : "no", OrNone(mode.continuousLimit)});
+                    std::to_string(mode.sliceHeight.count), std::to_string(mode.firstValue),
+                    std::to_string(mode.secondValue), OrNone(mode.sliceCount),
+                    mode.limited ? "yes" : "no", OrNone(mode.limitedContinuous)});
   }
   if (!rows.empty()) {
     report->Table({"Index", "Number", "Slice (um)", "First value", "Second value", "Layers",
@@ -71,12 +71,12 @@ void ShowModes(const PrinterFacts& facts, Report* report) {
 
 void ShowSupport(const PrinterFacts& facts, Report* report) {
   report->Section("Support");
-  report->Value("Top thickness", Millimetres(facts.topSupportUm));
+  report->Value("Top thickness", Millimetres(facts.topSupport.count));
   for (const SideSupportFacts& side : facts.sideSupport) {
-    report->Value("Side thickness at " + std::to_string(side.modelHeightUm / 1000) + " mm",
-                  Millimetres(side.thicknessUm));
+    report->Value("Side thickness at " + std::to_string(side.modelHeight.count / 1000) + " mm",
+                  Millimetres(side.thickness.count));
   }
-  report->Value("Detach layer", Millimetres(facts.detachLayerUm));
+  report->Value("Detach layer", Millimetres(facts.detachLayer.count));
   report->Value("Size code (-2 to 6)", std::to_string(facts.supportSizeCode));
 }
 
@@ -88,7 +88,7 @@ void ShowMachine(const PrinterFacts& facts, Report* report) {
   report->Value("Automatic cleaning", OnOff(facts.autoCleaning));
   report->Value("Nozzle check while printing", OnOff(facts.nozzleCheck));
   char band[64];
-  std::snprintf(band, sizeof band, "%g mm", facts.headBandMm);
+  std::snprintf(band, sizeof band, "%g mm", facts.headBand.count);
   report->Value("Head band", band);
   const std::int32_t setting = facts.chippingAllowanceSetting;
   report->Value("Chipping allowance", setting == 0 ? "none" : "setting " + std::to_string(setting));
@@ -97,20 +97,20 @@ void ShowMachine(const PrinterFacts& facts, Report* report) {
 void ShowSlots(const PrinterFacts& facts, Report* report) {
   report->Section("Ink slots");
   std::vector<Report::Row> rows;
-  for (const SlotFacts& slot : facts.slots) {
-    rows.push_back({std::to_string(slot.number), slot.id, std::to_string(slot.colorCode),
-                    std::to_string(slot.inkTypeCode), slot.valid ? slot.name : "(unknown ink)"});
+  for (const tavrinlib::Slot& slot : facts.slots) {
+    rows.push_back({std::to_string(slot.number), slot.inkId, std::to_string(slot.colorCode),
+                    std::to_string(slot.inkTypeCode), slot.valid ? slot.inkName : "(unknown ink)"});
   }
   report->Table({"Slot", "Ink id", "Colour code", "Ink type code", "Ink"}, rows);
 }
 
 /// Which slots hold what a code stands for. Names of single colours and ink types are not handed
 /// out, only those of whole inks.
-void ShowCodes(const PrinterFacts& facts, const char* title, std::int32_t SlotFacts::*code,
+void ShowCodes(const PrinterFacts& facts, const char* title, std::int32_t tavrinlib::Slot::*code,
                Report* report) {
   report->Section(title);
   std::map<std::int32_t, std::string> slotsOfCode;
-  for (const SlotFacts& slot : facts.slots) {
+  for (const tavrinlib::Slot& slot : facts.slots) {
     if (!slot.valid) continue;
     std::string& list = slotsOfCode[slot.*code];
     list += (list.empty() ? "" : ", ") + std::to_string(slot.number);
@@ -125,7 +125,7 @@ void ShowCategories(const PrinterFacts& facts, Report* report) {
   const std::size_t count = facts.categories.size();
   for (std::size_t i = 0; i < count; ++i) {
     std::string list;
-    for (const std::int32_t number : facts.categories[i])
+    for (const std::uint32_t number : facts.categories[i])
       list += (list.empty() ? "slots " : ", ") + std::to_string(number);
     const char* total = i + 1 == count ? ": all ink" : i + 2 == count ? ": model ink" : "";
     report->Value("Category " + std::to_string(i) + total, list.empty() ? "no slots" : list);
@@ -143,8 +143,8 @@ std::string FactsAsText(const PrinterFacts& facts) {
   ShowSupport(facts, &report);
   ShowMachine(facts, &report);
   ShowSlots(facts, &report);
-  ShowCodes(facts, "Colours in the slots", &SlotFacts::colorCode, &report);
-  ShowCodes(facts, "Ink types in the slots", &SlotFacts::inkTypeCode, &report);
+  ShowCodes(facts, "Colours in the slots", &tavrinlib::Slot::colorCode, &report);
+  ShowCodes(facts, "Ink types in the slots", &tavrinlib::Slot::inkTypeCode, &report);
   ShowCategories(facts, &report);
   return text.str();
 }

@@ -17,6 +17,8 @@ std::string DefinitionGenerator::Make() {
     Identity();
   }
   Header("printer");
+  while (OneIn(3))
+    Noise();
   void (DefinitionGenerator::*const kParts[])() = {
       &DefinitionGenerator::Identity,      &DefinitionGenerator::Dimensions,
       &DefinitionGenerator::Support,       &DefinitionGenerator::Switches,
@@ -69,7 +71,7 @@ std::string DefinitionGenerator::Number() {
           "2147483.647|2147483.648|-2147483.649|4294967.296|45|90|89.99999999999999|270|"
           "1e15|1e19|1e308|-1e308|1e309|1e999|1.7976931348623159e308|1e-310|4.9e-324|1e-400|"
           "-1e-400|1e-5000|2.2250738585072011e-308|2.4703282292062328e-324|"
-          "0x|0x1.8p3|0x1p-1074|0x1p2000|inf|infinity|INFx|"
+          "0x|0x1.8p3|0x1p-1074|0x65.2dp-1069|0x1.8p-1075|0x1p-1075|0x1p2000|inf|infinity|INFx|"
           "nan|-nan|nan(1)|nan(x y)|nan(0x7ffff)|NAN(123456789012345678)");
     case 2: {  // as many digits as no double can hold
       std::string digits = std::to_string(random_()) + ".";
@@ -159,7 +161,8 @@ void DefinitionGenerator::Line(std::initializer_list<std::string> parts) {
 
 void DefinitionGenerator::Noise() {
   Line(
-      {OneOf("| |\t|;|; text|;Version=8| ;ModelName=comment|# text|text|=|=value|Unknown=1|"
+      {OneOf("| |\t|;|; text|;Version=8| ;ModelName=comment|# text|text|=|=value|= x| = "
+             "|Unknown=1|Color001Code|NumOfColor|"
              "Version2=7|Printer]|x[printer]|//|\032|\f")});
 }
 

@@ -30,7 +30,8 @@ bool TavrinGetItemCountOfInkSlot(uint32_t* count) {
 bool TavrinGetInkSlot(uint32_t slotNumber, InkSlot** slot) {
   return Query([&](const PrinterConfig& config) {
     if (slot == nullptr) return Fail(ErrorNotInitialized);
-    *slot = config.FindInkSlot(slotNumber);
+    // Hosts take the slot without const, but its operations all have it.
+    *slot = const_cast<NumberedInkSlot*>(config.FindInkSlot(slotNumber));
     return *slot != nullptr;
   });
 }

@@ -1,5 +1,4 @@
 #include <cstring>
-#include <limits>
 #include <string>
 
 #include "TavrinLib.h"
@@ -25,16 +24,11 @@ template <typename Answer>
 bool QueryMode(int32_t index, Answer answer) {
   return Query([&](const PrinterConfig& config) {
     if (index < 0 || static_cast<size_t>(index) >= config.Modes.size()) return false;
-    answer(config, *config.Modes[static_cast<size_t>(index)]);
+    const ModeConfig* mode = config.Modes[static_cast<size_t>(index)].get();
+    if (mode == nullptr) return false;
+    answer(config, *mode);
     return true;
   });
-}
-
-/// The slices in the build height; INT32_MIN, to which no finite number truncates, where the slices
-/// have no height.
-int32_t LayerCount(const PrinterConfig& config, const ModeConfig& mode) {
-  if (mode.SliceSize == 0) return std::numeric_limits<int32_t>::min();
-  return TruncateToInt32(static_cast<double>(ToMicrometres(config.PrinterSize.z)) / mode.SliceSize);
 }
 
 constexpr size_t kInfoFieldBytes = 128;
@@ -75,7 +69,7 @@ bool TavrinGetModeConfig(int32_t index, int32_t config[6]) {
     config[1] = mode.SliceSize;
     config[2] = mode.SecondValue;
     config[3] = mode.FirstValue;
-    config[4] = LayerCount(printer, mode);
+    config[4] = printer.LayerCount(mode);
     config[5] = mode.LimitedContinuous;
   });
 }

@@ -15,7 +15,7 @@ bool ReadNumbers(IniFile& ini, const std::string& key, std::vector<std::int32_t>
   if (!ReadList(ini, key, &fields)) return false;
   for (const std::string& field : fields) {
     std::int32_t number = 0;
-    if (ParseInt(field, &number)) numbers->push_back(number);
+    if (ParseField(field, &number)) numbers->push_back(number);
   }
   return !numbers->empty();
 }
@@ -45,7 +45,7 @@ bool ReadLimitationModeList(IniFile& ini, std::vector<std::int32_t>* numbers) {
 bool ReadModePair(IniFile& ini, const std::string& key, std::int32_t* first, std::int32_t* second) {
   std::vector<std::string> fields;
   if (!ReadList(ini, key, &fields) || fields.size() < 2) return false;
-  return ParseInt(fields[0], first) && ParseInt(fields[1], second);
+  return ParseField(fields[0], first) && ParseField(fields[1], second);
 }
 
 bool ReadModes(IniFile& ini, PrinterConfig* config) {

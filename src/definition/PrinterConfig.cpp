@@ -1,10 +1,11 @@
 #include "definition/PrinterConfig.h"
 
 #include <cmath>
+#include <limits>
 
 #include "definition/FileCipher.h"
 #include "definition/IniSnapshot.h"
-#include "definition/InkTables.h"
+#include "definition/InkSection.h"
 #include "definition/IntegerConversion.h"
 #include "definition/PrintModes.h"
 #include "definition/PrinterSection.h"
@@ -43,6 +44,11 @@ bool PrinterConfig::ParseOpened(IniFile& ini) {
     BuildDefaultInkCategories();
   }
   return true;
+}
+
+std::int32_t PrinterConfig::LayerCount(const ModeConfig& mode) const {
+  if (mode.SliceSize == 0) return std::numeric_limits<std::int32_t>::min();
+  return TruncateToInt32(static_cast<double>(ToMicrometres(PrinterSize.z)) / mode.SliceSize);
 }
 
 std::int32_t PrinterConfig::SideSupportThickness(std::int32_t modelHeight) const {

@@ -15,6 +15,9 @@ namespace tavrin {
 
 /// What the printer can do and how it is set up, its inks included. Made with the defaults below,
 /// filled from one definition file, and only read afterwards.
+///
+/// A printer has inks and is none; the base class is there so that the tables and slots, which
+/// `ink/` fills and derives categories from, are fields of the configuration like all others.
 class PrinterConfig : public InkModel {
  public:
   /// Reads, deciphers and parses the enciphered definition file at path. While it is parsed, a
@@ -37,6 +40,10 @@ class PrinterConfig : public InkModel {
 
   /// Parse on an opened file.
   bool ParseOpened(IniFile& ini);
+
+  /// The slices of mode in the build height; INT32_MIN, to which no finite number truncates, where
+  /// they have no height.
+  std::int32_t LayerCount(const ModeConfig& mode) const;
 
   /// The thickness in µm of the support beside a model of the given height in µm: 0 for a height
   /// below 1, the bare extent where the angle is not above 0.

@@ -2,6 +2,7 @@
 
 #include "definition/IntegerConversion.h"
 #include "definition/ValueConversion.h"
+#include "definition/WideText.h"
 
 namespace tavrin {
 
@@ -15,6 +16,14 @@ bool ReadMicrometres(IniFile& ini, const std::string& key, std::int32_t* field) 
 bool ReadList(IniFile& ini, const std::string& key, std::vector<std::string>* fields) {
   std::string text;
   return ini.ReadString(kPrinterSection, key, &text) && Split(text, fields);
+}
+
+bool ParseField(const std::string& field, std::int32_t* value) {
+  return ParseInt(WideText(field).c_str(), value);
+}
+
+bool ParseField(const std::string& field, double* value) {
+  return ParseDouble(WideText(field).c_str(), value);
 }
 
 }  // namespace tavrin

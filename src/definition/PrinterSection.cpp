@@ -23,9 +23,9 @@ void ReadPrinterSize(IniFile& ini, M3DVector* size) {
   if (!ReadList(ini, "PrinterSize", &fields) || fields.size() < 3) return;
   // A field that is no number counts as 0, and the key is taken all the same.
   *size = M3DVector();
-  ParseDouble(fields[0], &size->x);
-  ParseDouble(fields[1], &size->y);
-  ParseDouble(fields[2], &size->z);
+  ParseField(fields[0], &size->x);
+  ParseField(fields[1], &size->y);
+  ParseField(fields[2], &size->z);
 }
 
 void ReadDimensions(IniFile& ini, PrinterConfig* config) {
@@ -34,8 +34,8 @@ void ReadDimensions(IniFile& ini, PrinterConfig* config) {
 
   std::string text;
   if (ini.ReadString(kPrinterSection, "HeadBandSize", &text))
-    ParseDouble(text, &config->HeadBandSize);
-  if (ini.ReadString(kPrinterSection, "DefaultMode", &text)) ParseInt(text, &config->DefaultMode);
+    ParseField(text, &config->HeadBandSize);
+  if (ini.ReadString(kPrinterSection, "DefaultMode", &text)) ParseField(text, &config->DefaultMode);
 }
 
 /// The size code that belongs to a support extent in µm and an angle in thousandths of a degree.

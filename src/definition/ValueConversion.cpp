@@ -1,13 +1,13 @@
 #include "definition/ValueConversion.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
-#include <stdexcept>
 #include <system_error>
-
-#include "definition/WideText.h"
+#include <utility>
 
 namespace tavrin {
 
@@ -20,24 +20,19 @@ bool IsSpace(wchar_t c) {
          c == 0x3000;
 }
 
-bool IsAscii(wchar_t c) {
+template <typename Char>
+bool IsAscii(Char c) {
   return static_cast<char32_t>(c) < 0x80;
 }
 
 /// What a number's characters can be among, at the start of text. Narrow, because the conversions
 /// of the runtimes agree on narrow ASCII.
-std::string NumberText(std::wstring_view text) {
-  const auto begin = std::find_if_not(text.begin(), text.end(), IsSpace);
-  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
-}
-
-std::string NumberText(std::string_view text) {
-  const auto isSpace = [](char c) { return IsAscii(c) && IsSpace(c); };
+template <typename Char>
+std::string NumberText(std::basic_string_view<Char> text) {
+  // What a char beyond ASCII stands for, its encoding alone tells.
+  const auto isSpace = [](Char c) { return (sizeof c > 1 || IsAscii(c)) && IsSpace(c); };
   const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
-  // Only its encoding tells whether white space beyond ASCII stands in front.
-  if (begin != text.end() && !IsAscii(*begin))
-    return NumberText(WideText(std::string(text)).c_str());
-  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii));
+  return std::string(begin, std::find_if_not(begin, text.end(), IsAscii<Char>));
 }
 
 template <typename Text>
@@ -50,16 +45,16 @@ bool ParseIntOf(const Text& text, std::int32_t* value) {
 
 template <typename Text>
 bool ParseDoubleOf(const Text& text, double* value) {
-  try {
-    const double number = std::stod(NumberText(text));
-    // Sign and payload of a NaN differ from runtime to runtime.
-    *value = std::isnan(number) ? std::numeric_limits<double>::quiet_NaN() : number;
-    return true;
-  } catch (const std::invalid_argument&) {
-    return false;
-  } catch (const std::out_of_range&) {
-    return false;
-  }
+  const std::string number = NumberText(text);
+  char* end = nullptr;
+  const int previous = std::exchange(errno, 0);
+  const double parsed = std::strtod(number.c_str(), &end);
+  const bool isOutside = errno == ERANGE && (parsed == 0.0 || std::isinf(parsed));
+  errno = previous;
+  if (end == number.c_str() || isOutside) return false;
+  // Sign and payload of a NaN differ from runtime to runtime.
+  *value = std::isnan(parsed) ? std::numeric_limits<double>::quiet_NaN() : parsed;
+  return true;
 }
 
 }  // namespace

@@ -29,10 +29,12 @@ class InkModel {
   void SetDefaultInkSlots();
 
   /// Appends a slot: one that is not valid when a table lacks the code. Always true.
+  ///
+  /// REQUIRES: slots are added in the order of their numbers, from 1 on.
   bool AddInkSlot(std::uint32_t slot, std::uint32_t colorCode, std::uint32_t inkTypeCode);
 
   /// The slot of this number; null when there is none.
-  NumberedInkSlot* FindInkSlot(std::uint32_t slotNumber) const;
+  const NumberedInkSlot* FindInkSlot(std::uint32_t slotNumber) const;
 
   /// Derives the categories of slots that the definition file names: one for each pair of ink type
   /// and colour, then the totals of what models are made of and of everything. Always true.

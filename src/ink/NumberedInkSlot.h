@@ -9,14 +9,14 @@ namespace tavrin {
 /// What the library itself asks of a slot, valid or not.
 class NumberedInkSlot : public InkSlot {
  public:
-  explicit NumberedInkSlot(std::uint32_t number) : slotNumber(number) {}
+  explicit NumberedInkSlot(std::uint32_t number) : slotNumber_(number) {}
 
   bool GetColorCode(std::uint32_t* code) const override;
   bool GetInkTypeCode(std::uint32_t* code) const override;
   bool GetInkId(char** id, std::int32_t* size) const override;
 
   /// The slot's number, from 1.
-  virtual std::uint32_t GetSlotNumber() const { return slotNumber; }
+  virtual std::uint32_t GetSlotNumber() const { return slotNumber_; }
   virtual std::uint32_t ColorCode() const = 0;
   virtual std::uint32_t InkTypeCode() const = 0;
   /// The ink id as a number. Ink types or colours that agree in their last three digits give the
@@ -27,8 +27,8 @@ class NumberedInkSlot : public InkSlot {
   virtual std::string InkIdString() const;
   virtual std::string InkNameString() const = 0;
 
- protected:
-  std::uint32_t slotNumber;
+ private:
+  std::uint32_t slotNumber_;
 };
 
 }  // namespace tavrin

@@ -67,7 +67,7 @@ const Categories kDefaultCategories = {{"Support", {1, 2}},
                                        {"[Total] Model Ink", {3, 4, 5, 6, 7, 8}},
                                        {"[Total] All Ink", {1, 2, 3, 4, 5, 6, 7, 8}}};
 
-TEST(InkTables, ColorsComeFromTheFileOrAreTheBuiltInOnes) {
+TEST(InkSection, ColorsComeFromTheFileOrAreTheBuiltInOnes) {
   const std::string one = "Color001Code=9\nColor001Name=Rose\n";
   const std::string three = "Color003Code=8\nColor003Name=Sky\n";
   const struct {
@@ -91,18 +91,19 @@ TEST(InkTables, ColorsComeFromTheFileOrAreTheBuiltInOnes) {
     EXPECT_EQ(TableOf(Parsed(c.lines)->Colors), c.colors) << c.lines;
 }
 
-TEST(InkTables, InkTypesComeFromTheFileOrAreTheBuiltInOnes) {
+TEST(InkSection, InkTypesComeFromTheFileOrAreTheBuiltInOnes) {
   EXPECT_EQ(TableOf(Parsed("NumOfInkType=0\n")->InkTypes), kDefaultInkTypes);
   EXPECT_EQ(TableOf(Parsed("NumOfInkType=2\nInkType002Code=5\nInkType002Name=N\n")->InkTypes),
             (Table{{5, "N"}}));
 }
 
-TEST(InkTables, EnormousCountsGiveTheEntriesThatAreThere) {
+TEST(InkSection, EnormousCountsGiveTheEntriesThatAreThere) {
   std::string filler;
   for (int i = 0; i < 5000; ++i)
     filler += "FillerThatMakesTheListOfKeysLong" + std::to_string(i) + "=\n";
+  // The first line of a section has a part of its own in how Windows lists keys.
   const auto config = Parsed(
-      filler +
+      "= no name\n" + filler +
       "NumOfColor=2147483647\nColor2000000000Code=1\nColor2000000000Name=Far\n"
       "Color0000000003Code=2\nColor0000000003Name=Padded\ncolor010CODE=3\nCOLOR010name=Near\n"
       "Color2147483647Code=4\nColor2147483647Name=Last\nColor2147483648Code=5\n"
@@ -114,7 +115,7 @@ TEST(InkTables, EnormousCountsGiveTheEntriesThatAreThere) {
   EXPECT_EQ(config->InkSlotNum, 8) << "slot 2 is missing, so the built-in slots stand in";
 }
 
-TEST(InkTables, AnIncompleteSlotBringsTheBuiltInSlotsAndCategories) {
+TEST(InkSection, AnIncompleteSlotBringsTheBuiltInSlotsAndCategories) {
   const std::string four = SlotLines({{1, 113}, {2, 113}, {3, 113}, {4, 113}});
   const auto without = [&](const std::string& key) {
     const std::size_t line = four.find(key);

@@ -1,7 +1,10 @@
 // What the file system of this platform can put in a library's way: links, pipes, directories.
+#include <csignal>
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "definition/FileLoader.h"
 #include "definition/PrinterConfig.h"
@@ -52,6 +55,20 @@ TEST(PortableFiles, OnlyRegularFilesLoad) {
   const std::string link = folder.PathOf("link.dat");
   std::filesystem::create_symlink(folder.WriteEnciphered("printer.dat", Definition("")), link);
   EXPECT_TRUE(PrinterConfig().Load(link)) << "a link to a regular file is one";
+}
+
+TEST(PortableFiles, AFileOnWhichALeaseIsHeldLoads) {
+  const TestFolder folder;
+  const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
+  static int leased = -1;
+  leased = open(path.c_str(), O_RDWR | O_CLOEXEC);
+  // Who holds a lease is told by this signal that somebody wants the file.
+  std::signal(SIGIO, [](int) { fcntl(leased, F_SETLEASE, F_UNLCK); });
+  ASSERT_EQ(fcntl(leased, F_SETLEASE, F_WRLCK), 0);
+  EXPECT_TRUE(PrinterConfig().Load(path));
+  EXPECT_EQ(fcntl(leased, F_GETLEASE), F_UNLCK) << "it was broken";
+  std::signal(SIGIO, SIG_DFL);
+  close(leased);
 }
 
 TEST(PortableFiles, TmpdirNamesTheTemporaryDirectory) {

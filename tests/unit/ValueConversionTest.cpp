@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "definition/IntegerConversion.h"
+#include "definition/PrinterKeys.h"
 #include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
 
@@ -85,15 +86,28 @@ TEST(ValueConversion, NumbersAreTheSameOnEveryPlatform) {
     EXPECT_EQ(number, 42.0);
   }
   std::int32_t narrow = kUntouched;
-  EXPECT_TRUE(ParseInt(NarrowCopy(L"\u00A042"), &narrow));
+  EXPECT_TRUE(ParseField(NarrowCopy(L"\u00A042"), &narrow));
   EXPECT_EQ(narrow, 42);
+  for (const wchar_t* text : {L"\uFF14\uFF12", L"\u0664\u0662"})
+    EXPECT_FALSE(ParseInt(text, &narrow)) << "digits of other scripts";
   EXPECT_FALSE(ParseInt(std::wstring(L"-\u00A042"), &narrow));
 
-  for (const char* text : {"0x1p-1074", "1.7976931348623158e308"}) {
+  const struct {
+    const char* text;
+    double value;  // 0: out of range
+  } edges[] = {
+      {"1.7976931348623158e308", std::numeric_limits<double>::max()},
+      {"1.7976931348623159e308", 0.0},
+      {"0x1p-1074", std::numeric_limits<double>::denorm_min()},
+      {"0x65.2dp-1069", 3238 * std::numeric_limits<double>::denorm_min()},
+      {"1e-310", 1e-310},
+      {"0x1p-1075", 0.0},
+      {"1e-400", 0.0},
+  };
+  for (const auto& edge : edges) {
     double number = 0.0;
-    double wide = 1.0;
-    EXPECT_TRUE(ParseDouble(text, &number) && ParseDouble(Widen(text), &wide)) << text;
-    EXPECT_EQ(number, wide) << text;
+    EXPECT_EQ(ParseDouble(edge.text, &number), edge.value != 0.0) << edge.text;
+    EXPECT_EQ(number, edge.value) << edge.text;
   }
   const double expected = std::numeric_limits<double>::quiet_NaN();
   for (const char* text : {"nan", "-nan", "nan(1)"}) {

@@ -6,7 +6,7 @@
 
 #include "FactsJson.h"
 #include "PrinterFacts.h"
-#include "TavrinLib.h"
+#include "TavrinSession.h"
 #include "api/LibraryInstance.h"
 #include "check/KeyFacts.h"
 #include "check/Reading.h"
@@ -15,15 +15,10 @@
 namespace tavrin::tool {
 namespace {
 
-/// The configuration that the exports answer from, in place of one that was loaded.
+/// The configuration that the exports answer from, in place of the one that was loaded.
 void Install(std::unique_ptr<PrinterConfig> config) {
-  TavrinFinalize();
+  delete libraryInstance;
   libraryInstance = config.release();
-}
-
-/// What the command show prints of it.
-std::string Shown() {
-  return FactsAsJson(AskPrinterFacts());
 }
 
 TEST(WatchedReading, ShowsAsTheLoadedDefinitionDoes) {
@@ -36,14 +31,27 @@ TEST(WatchedReading, ShowsAsTheLoadedDefinitionDoes) {
     Reading reading(Bytes(content.begin(), content.end()));
     ++definitions;
     const std::string definition = folder.WriteEnciphered("a.dat", content);
-    ASSERT_EQ(TavrinInitialize(definition.c_str()), reading.loads);
-    if (!reading.loads) continue;
-    const std::string loaded = Shown();
+    if (!reading.loads) {
+      EXPECT_FALSE(TavrinInitialize(definition.c_str()));
+      continue;
+    }
+    const tavrinlib::Session session(definition);
+    const std::string loaded = FactsAsJson(AskPrinterFacts(session));
     Install(std::move(reading.config));
-    EXPECT_EQ(Shown(), loaded);
+    EXPECT_EQ(FactsAsJson(AskPrinterFacts(session)), loaded);
   }
-  TavrinFinalize();
   EXPECT_GT(definitions, 30);
+}
+
+TEST(Modes, AnEntryWithoutAModeAnswersNothing) {
+  auto config = std::make_unique<PrinterConfig>();
+  config->Modes.emplace_back();
+  Install(std::move(config));
+  std::int32_t mode[6] = {};
+  bool limited = false;
+  EXPECT_FALSE(TavrinGetModeConfig(0, mode));
+  EXPECT_FALSE(TavrinGetWarpWarning(0, &limited));
+  TavrinFinalize();
 }
 
 TEST(KnownKeys, AreMatchedByTheirNumbersAndHaveFacts) {

@@ -10,7 +10,7 @@ namespace tavrin::platform {
 
 Descriptor::Descriptor(const std::string& path, int flags, mode_t mode) {
   do {
-    value_ = open(path.c_str(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, mode);
+    value_ = open(path.c_str(), flags | O_NOCTTY | O_CLOEXEC, mode);
   } while (value_ < 0 && errno == EINTR);
 }
 
@@ -25,8 +25,11 @@ bool Descriptor::Close() {
 }
 
 Descriptor OpenRegularFile(const std::string& path, std::uint64_t* size) {
-  Descriptor file(path, O_RDONLY);
+  Descriptor file(path, O_RDONLY | O_NONBLOCK);
   struct stat status = {};
+  const bool isLeased = !file.IsOpen() && errno == EWOULDBLOCK;
+  if (isLeased && stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode))
+    file = Descriptor(path, O_RDONLY);
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return {};
   if (!S_ISREG(status.st_mode)) {
     errno = EINVAL;

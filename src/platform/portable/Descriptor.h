@@ -15,7 +15,7 @@ class Descriptor {
  public:
   /// None.
   Descriptor() = default;
-  /// Opens path, none where that fails. A pipe or device there is seen without waiting for it.
+  /// Opens path, none where that fails.
   Descriptor(const std::string& path, int flags, mode_t mode = 0);
   ~Descriptor();
   Descriptor(Descriptor&& other) noexcept : value_(other.Release()) {}
@@ -35,7 +35,9 @@ class Descriptor {
 
 // What fails leaves its reason in errno.
 
-/// Opens the regular file at path for reading; what else lies there is EINVAL.
+/// Opens the regular file at path for reading; what else lies there is EINVAL. Waits for a process
+/// with a lease on the file, as file servers have them, to give it up, but not for pipes or
+/// devices.
 Descriptor OpenRegularFile(const std::string& path, std::uint64_t* size);
 
 /// Reads n bytes, fewer where the file ends.

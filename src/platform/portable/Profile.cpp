@@ -55,7 +55,7 @@ bool UpdateFile(const std::string& path, std::string_view before, std::string_vi
   if (before == after) return true;
   struct stat status = {};
   const bool isNew = stat(path.c_str(), &status) != 0;
-  Descriptor file(path, O_WRONLY | O_CREAT, 0666);
+  Descriptor file(path, O_WRONLY | O_CREAT | O_NONBLOCK, 0666);
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   const auto kept = static_cast<std::size_t>(
       std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
@@ -153,8 +153,8 @@ void ListNames(const ProfileIndex<Char>& index, const wchar_t* section,
                const std::function<void(std::wstring_view)>& take) {
   std::wstring wide;
   index.ListKeys(AskedName<Char>(section).View(), [&](const auto& name) {
-    wide.resize(name.size());
-    std::copy(name.begin(), name.end(), wide.begin());
+    wide.clear();
+    AppendAsIs(name, &wide);
     take(wide);
   });
 }

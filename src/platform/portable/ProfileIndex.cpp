@@ -4,26 +4,12 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/portable/LetterCase.h"
 #include "platform/portable/ProfileText.h"
 
 namespace tavrin::platform {
 
 namespace {
-
-/// As many characters as fit, each in a lane of its own.
-using Word = std::uint64_t;
-
-/// Characters with A to Z as a to z. Those that fill their lane to the top, which no text holds,
-/// may come out as anything.
-template <typename Char>
-Word Fold(Word word) {
-  constexpr unsigned kLaneBits = 8 * sizeof(Char);
-  constexpr Word kEach = ~Word{0} / ((Word{1} << kLaneBits) - 1);
-  constexpr Word kTop = kEach << (kLaneBits - 1);
-  const Word fromA = word + (kTop - kEach * 'A');
-  const Word beyondZ = word + (kTop - kEach * ('Z' + 1));
-  return word | (fromA & ~beyondZ & kTop) >> (kLaneBits - 6);  // bit 5 makes a letter small
-}
 
 /// Multiplying carries differences upwards alone, so the upper half comes down each time, and
 /// twice, so that no later word can take a difference back whose way it knows.
@@ -41,12 +27,12 @@ std::uint64_t HashName(std::basic_string_view<Char> name, std::uint64_t seed) {
   Word hash = seed;
   for (Word word = 0; name.size() >= kLanes; name.remove_prefix(kLanes)) {
     std::memcpy(&word, name.data(), sizeof word);
-    hash = Mix(hash, Fold<Char>(word));
+    hash = Mix(hash, FoldLanes<Char>(word));
   }
   Word rest = 0;
   for (const Char c : name)
     rest = rest << 8 * sizeof c | static_cast<std::make_unsigned_t<Char>>(c);
-  return Mix(hash, Fold<Char>(rest));
+  return Mix(hash, FoldLanes<Char>(rest));
 }
 
 }  // namespace

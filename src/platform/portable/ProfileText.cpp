@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/portable/Ascii.h"
+#include "platform/portable/LetterCase.h"
 
 namespace tavrin::platform {
 
@@ -14,11 +15,6 @@ constexpr char32_t kLastCharacter = 0x10FFFF;
 constexpr char32_t kHighSurrogates = 0xD800;
 constexpr char32_t kLowSurrogates = 0xDC00;
 constexpr char32_t kSurrogatesPerHalf = 0x400;
-
-template <typename Char>
-Char Fold(Char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<Char>(c + ('a' - 'A')) : c;
-}
 
 template <typename Char>
 bool IsAstral(Char c) {
@@ -95,9 +91,7 @@ std::wstring_view StripSpaces(std::wstring_view name) {
 
 void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
   if (IsAscii(text)) {
-    const std::size_t length = wide->size();
-    wide->resize(length + text.size());
-    std::copy(text.begin(), text.end(), wide->data() + length);
+    AppendAsIs(text, wide);
   } else {
     Codec().AppendWide(text, LocaleCodec::Undecodable::Replace, wide);
   }
@@ -105,7 +99,7 @@ void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
 
 void NarrowEncoding::AppendUnits(std::wstring_view wide, std::string* text) {
   if (IsAscii(wide)) {
-    text->append(wide.begin(), wide.end());
+    AppendAsIs(wide, text);
   } else {
     Codec().AppendNarrow(wide, text);
   }
@@ -166,7 +160,6 @@ void Utf16Encoding::AppendUnits(std::wstring_view wide, std::u16string* text) {
 }
 
 std::wstring DecodeProfile(const std::string& bytes) {
-  if (IsAscii(std::string_view(bytes))) return std::wstring(bytes.begin(), bytes.end());
   std::wstring wide;
   if (Utf16Encoding::HasMark(bytes)) {
     const std::u16string text = Utf16Encoding::FromBytes(bytes);

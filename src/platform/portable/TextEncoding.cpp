@@ -1,6 +1,5 @@
 #include "platform/TextEncoding.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -28,8 +27,8 @@ bool ToNarrow(const std::wstring& wide, std::string* narrow) {
   return Succeeds([&] {
     const std::wstring_view text = wide.c_str();
     if (IsAscii(text)) {
-      narrow->resize(text.size());
-      std::copy(text.begin(), text.end(), narrow->begin());
+      narrow->clear();
+      AppendAsIs(text, narrow);
       return;
     }
     std::string encoded;
@@ -42,8 +41,8 @@ bool ToWide(const std::string& narrow, std::wstring* wide) {
   return Succeeds([&] {
     const std::string_view text = narrow.c_str();
     if (IsAscii(text)) {
-      wide->resize(text.size());
-      std::copy(text.begin(), text.end(), wide->begin());
+      wide->clear();
+      AppendAsIs(text, wide);
       return;
     }
     std::wstring decoded;

@@ -40,20 +40,22 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
 
 void ProfileReader::ListKeys(const wchar_t* section,
                              const std::function<void(std::wstring_view)>& take) const {
-  // Each name ends in a NUL, the list in one more. A list that fills the buffer but for two
-  // characters has been cut.
+  // The lines, as asking for the names alone gives none where the first line's is empty. Each ends
+  // in a NUL, the list in one more. A list that fills the buffer but for two characters has been
+  // cut.
   std::vector<wchar_t> buffer(65536);
   DWORD length = 0;
   for (;;) {
     const auto size = static_cast<DWORD>(buffer.size());
-    length = GetPrivateProfileStringW(section, nullptr, L"", buffer.data(), size, source_->Path());
+    length = GetPrivateProfileSectionW(section, buffer.data(), size, source_->Path());
     if (length < size - 2 || size > kLongestList / 2) break;
     buffer.resize(2 * buffer.size());
   }
-  for (const wchar_t* key = buffer.data(); key < buffer.data() + length;) {
-    const std::wstring_view name = key;
-    take(name);
-    key += name.size() + 1;
+  for (const wchar_t* next = buffer.data(); next < buffer.data() + length;) {
+    const std::wstring_view line = next;
+    const std::wstring_view key = line.substr(0, line.find(L'='));
+    take(key.substr(0, key.find_last_not_of(L" \t") + 1));
+    next += line.size() + 1;
   }
 }
 

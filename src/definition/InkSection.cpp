@@ -1,4 +1,4 @@
-#include "definition/InkTables.h"
+#include "definition/InkSection.h"
 
 #include <algorithm>
 #include <numeric>
