@@ -57,12 +57,11 @@ void ForEveryAllocation(Call call, Check check) {
 
 class AllocationFault : public SystemFaultTest {};
 
-TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothing) {
+TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothingInPlaceOfWhatWasLoaded) {
   for (const char* lines : {kLines, ""}) {  // with all its own, and with all that is built in
     const std::string path = folder.WriteEnciphered("loaded.dat", Definition(lines));
     ASSERT_TRUE(TavrinInitialize(path.c_str()));
     const std::string expected = AskEverything();
-    TavrinFinalize();
     SetLastErrorAside();
     long before = 0;
     ForEveryAllocation(
@@ -73,15 +72,14 @@ TEST_F(AllocationFault, AnInitialisationLoadsAllOrNothing) {
         [&](Result result) {
           if (result == Result::True) {
             EXPECT_EQ(AskEverything(), expected);
-            TavrinFinalize();
           } else {
-            const auto code = result == Result::Threw ? ErrorInvalidArgument : ErrorFailed;
-            EXPECT_EQ(LastError(), code);
+            EXPECT_EQ(LastError(), result == Result::Threw ? ErrorInvalidArgument : ErrorFailed);
             ExpectNoDefinition();
           }
-          EXPECT_EQ(Allocations::Live(), before);
           ExpectAllInOrder();
+          ASSERT_TRUE(TavrinInitialize(path.c_str()));
           SetLastErrorAside();
+          EXPECT_EQ(Allocations::Live(), before);
         });
   }
 }

@@ -1,15 +1,56 @@
 #include "fault/SystemFaultTest.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <functional>
 
-#include <fcntl.h>
+#include <dlfcn.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "definition/TextConversion.h"
+#include "platform/Profile.h"
+
+namespace {
+
+bool transfersAreSlow = false;
+
+/// Interrupts every other transfer and cuts the rest to seven bytes.
+bool Interrupts(std::size_t* n) {
+  static bool interrupts = false;
+  interrupts = transfersAreSlow && !interrupts;
+  if (interrupts) errno = EINTR;
+  if (transfersAreSlow) *n = std::min<std::size_t>(*n, 7);
+  return interrupts;
+}
+
+}  // namespace
+
+// In place of the C library's, for the shared library too.
+extern "C" __attribute__((visibility("default"))) ssize_t read(int file, void* block, size_t n) {
+  static const auto real = reinterpret_cast<decltype(&read)>(dlsym(RTLD_NEXT, "read"));
+  return Interrupts(&n) ? -1 : real(file, block, n);
+}
+
+extern "C" __attribute__((visibility("default"))) ssize_t pwrite(int file, const void* block,
+                                                                 size_t n, off_t offset) {
+  static const auto real = reinterpret_cast<decltype(&pwrite)>(dlsym(RTLD_NEXT, "pwrite"));
+  return Interrupts(&n) ? -1 : real(file, block, n, offset);
+}
+
 namespace tavrin::test {
 namespace {
+
+Situation StandardInputClosed() {
+  const int input = dup(STDIN_FILENO);
+  close(STDIN_FILENO);
+  return Until([=] {
+    dup2(input, STDIN_FILENO);
+    close(input);
+  });
+}
 
 Situation NoDescriptorsLeft() {
   const int lowestFree = dup(STDIN_FILENO);
@@ -91,6 +132,7 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
        false},
       {"full file system", [] { return FilesEndAt(0); }, false},
       {"no descriptors left", [] { return NoDescriptorsLeft(); }, false},
+      {"standard input closed", [] { return StandardInputClosed(); }, true},
       {"unreadable definition", [&] { return Rights(definition, 0); }, false},
       {"unsearchable directory", [&] { return Rights(folder.PathOf(""), 0); }, false},
       {"a file as directory", [] { return nullptr; }, false, precious + "/printer.dat"},
@@ -187,16 +229,14 @@ TEST_F(SystemFault, AConditionsFileSucceedsOnceItIsOpen) {
   }
 }
 
-TEST_F(SystemFault, AConditionsFileGoesIntoAPipeWhole) {
-  const std::string path = folder.PathOf("pipe");
-  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-  const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK);
-  ASSERT_TRUE(TavrinInitialize(definition.c_str()));
-  EXPECT_TRUE(TavrinCreateModelingConditionsFile(path.c_str()));
-  std::string content(ReadWhole(definition).size() + 1, '\0');
-  const ssize_t size = read(reader, content.data(), content.size());
-  close(reader);
-  EXPECT_EQ(content.substr(0, static_cast<std::size_t>(size)), ReadWhole(definition));
+TEST_F(SystemFault, InterruptedTransfersOfAFewBytesAreGoneOnWith) {
+  transfersAreSlow = true;
+  EXPECT_TRUE(TavrinInitialize(definition.c_str()));
+  const std::wstring profile = WideCopy(folder.Write("a.ini", "[S]\r\nKey=1\r\n"));
+  EXPECT_TRUE(platform::WriteProfileValue(L"S", L"A key", L"a value", profile.c_str()));
+  transfersAreSlow = false;
+  EXPECT_EQ(AskEverything(), answers);
+  EXPECT_EQ(ReadWhole(folder.PathOf("a.ini")), "[S]\r\nKey=1\r\nA key=a value\r\n");
   ExpectAllInOrder();
 }
 

@@ -44,6 +44,10 @@ TEST(FileLoader, LoadsWholeFilesAndSavesThem) {
   ASSERT_TRUE(loader.SaveToFile(&copy));
   EXPECT_EQ(ReadWhole(copy.Path()), content);
 
+  std::filesystem::resize_file(folder.PathOf("file"), (std::uintmax_t{1} << 32) + 3);
+  ASSERT_TRUE(loader.LoadFromFile(folder.PathOf("file")));
+  EXPECT_EQ(loader.Size(), 3u) << "sizes have 32 bits";
+
   EXPECT_FALSE(loader.LoadFromFile(folder.Write("empty", "")));
   EXPECT_TRUE(loader.IsEmpty());
   EXPECT_FALSE(loader.LoadFromFile(folder.PathOf("missing")));

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "definition/IniFile.h"
-#include "definition/IniSnapshot.h"
 #include "definition/TextConversion.h"
 #include "support/TestFiles.h"
 
@@ -20,6 +19,7 @@ TEST(IniFile, OpenKeepsThePathOfAMissingFile) {
   EXPECT_TRUE(ini.Close());
   folder.Write("printer.ini", "");
   EXPECT_TRUE(ini.Exists());
+  EXPECT_TRUE(ini.Open(WideCopy(folder.PathOf("")))) << "a directory exists, too";
 }
 
 TEST(IniFile, TypedReadsLeaveTheirValueOnFailure) {
@@ -80,15 +80,17 @@ TEST(IniFile, EachReadSeesTheFileOfThatMoment) {
   EXPECT_FALSE(nowhere.WriteString("S", "K", "2"));
 }
 
+/// Answers with the names that it is asked for.
+class Answering : public IniFile {
+ public:
+  using IniFile::ReadString;
+  bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
+    *value = std::wstring(section) + key;
+    return true;
+  }
+};
+
 TEST(IniFile, OverridingTheWideReadsChangesTheNarrowOnes) {
-  class Answering : public IniFile {
-   public:
-    using IniFile::ReadString;
-    bool ReadString(const wchar_t* section, const wchar_t* key, std::wstring* value) override {
-      *value = std::wstring(section) + key;
-      return true;
-    }
-  };
   Answering ini;
   std::string text;
   for (const std::string& key : {std::string("2"), std::string(), std::string(47, 'k'),
@@ -101,14 +103,18 @@ TEST(IniFile, OverridingTheWideReadsChangesTheNarrowOnes) {
   EXPECT_EQ(number, 12);
 }
 
-TEST(IniSnapshot, ReadsWhatIniFileReads) {
-  const TestFolder folder;
-  IniSnapshot ini(WideCopy(folder.Write("a.ini", "[S]\nK=v\n[S]\nL=w\n")));
-  EXPECT_TRUE(ini.Exists());
-  std::string text;
-  EXPECT_TRUE(ini.ReadString("s", "k", &text));
-  EXPECT_EQ(text, "v");
-  EXPECT_FALSE(ini.ReadString("S", "L", &text));
+TEST(IniFile, NumbersStandBehindEveryWhiteSpaceOfWindows) {
+  Answering ini;
+  std::wstring spaces;
+  for (wchar_t c = 0x80; c < 0xFFFF; ++c) {
+    std::int32_t integer = 0;
+    double number = 0;
+    const wchar_t text[] = {c, L'4', L'2', L'\0'};
+    if (ini.ReadInt(L" ", text, &integer) && ini.ReadDouble(L" ", text, &number)) spaces += c;
+  }
+  EXPECT_EQ(spaces,
+            L"\u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"
+            L"\u2028\u2029\u202F\u205F\u3000");
 }
 
 }  // namespace

@@ -105,13 +105,15 @@ TEST(InkSection, EnormousCountsGiveTheEntriesThatAreThere) {
   const auto config = Parsed(
       "= no name\n" + filler +
       "NumOfColor=2147483647\nColor2000000000Code=1\nColor2000000000Name=Far\n"
+      "Color000Code=7\nColor000Name=Zero\n"
       "Color0000000003Code=2\nColor0000000003Name=Padded\ncolor010CODE=3\nCOLOR010name=Near\n"
       "Color2147483647Code=4\nColor2147483647Name=Last\nColor2147483648Code=5\n"
       "Color2147483648Name=Beyond\nColorWheelCode=6\n"
-      "NumOfInkType=2147483647\nPrinterInkSlotNum=2147483647\nColorCodeInkSlot1=1\n"
+      "NumOfInkType=65\nInkType065Code=8\nInkType065Name=In\nInkType066Code=9\n"
+      "InkType066Name=Out\nPrinterInkSlotNum=2147483647\nColorCodeInkSlot1=1\n"
       "InkTypeCodeInkSlot1=113\n");
   EXPECT_EQ(TableOf(config->Colors), (Table{{3, "Near"}, {1, "Far"}, {4, "Last"}}));
-  EXPECT_EQ(TableOf(config->InkTypes), Table{});
+  EXPECT_EQ(TableOf(config->InkTypes), (Table{{8, "In"}}));
   EXPECT_EQ(config->InkSlotNum, 8) << "slot 2 is missing, so the built-in slots stand in";
 }
 
@@ -170,12 +172,12 @@ TEST(InkCategories, FileSlotsAreGroupedByInk) {
        "InkType002Name=Small\n" +
            SlotLines({{1, 1113}, {1, 113}}),
        {{"Big Cyan", {1, 2}}, {"[Total] Model Ink", {1, 2}}, {"[Total] All Ink", {1, 2}}}},
-      {"colours that agree in three digits do not: the colour's code counts too",
-       "NumOfColor=2\nColor001Code=1001\nColor001Name=Big\nColor002Code=1\nColor002Name=Small\n" +
-           SlotLines({{1001, 113}, {1, 113}}),
+      {"colours that agree in three digits do not, and but one is support",
+       "NumOfColor=2\nColor001Code=1056\nColor001Name=Big\nColor002Code=56\nColor002Name=Small\n" +
+           SlotLines({{1056, 113}, {56, 113}}),
        {{"KP-300 Big", {1}},
         {"KP-300 Small", {2}},
-        {"[Total] Model Ink", {1, 2}},
+        {"[Total] Model Ink", {1}},
         {"[Total] All Ink", {1, 2}}}},
       {"the first of two equal codes names the ink",
        "NumOfColor=2\nColor001Code=7\nColor001Name=First\nColor002Code=7\nColor002Name=Second\n" +
@@ -189,6 +191,16 @@ TEST(InkCategories, FileSlotsAreGroupedByInk) {
         {"KP-300 Max", {2}},
         {"[Total] Model Ink", {1, 3, 2}},
         {"[Total] All Ink", {1, 2, 3}}}},
+      {"negative ink types part the inks as far as the numbers of their ids do",
+       "NumOfInkType=4\nInkType001Code=-12\nInkType001Name=A\nInkType002Code=-13\n"
+       "InkType002Name=B\nInkType003Code=-5\nInkType003Name=C\nInkType004Code=-6\n"
+       "InkType004Name=D\n" +
+           SlotLines({{1, -12}, {1, -13}, {1, -5}, {1, -6}}),
+       {{"A Cyan", {1}},
+        {"B Cyan", {2}},
+        {"C Cyan", {3, 4}},
+        {"[Total] Model Ink", {1, 2, 3, 4}},
+        {"[Total] All Ink", {1, 2, 3, 4}}}},
       {"built-in slots over a table without their colours",
        rose,
        {{"Support", {}},
@@ -225,12 +237,23 @@ TEST(InkCategories, ACategoryTakesNoNullSlot) {
   EXPECT_EQ(count, -1);
 }
 
-TEST(InkModel, ASecondParseReplacesSlotsAndCategories) {
+TEST(InkModel, ASecondParseReplacesAllOfTheInks) {
+  const std::string definitions[] = {
+      "", SlotLines({{1, 113}, {2, 113}}),
+      "NumOfColor=1\nColor001Code=9\nColor001Name=Rose\nNumOfInkType=1\nInkType001Code=5\n"
+      "InkType001Name=N\n" +
+          SlotLines({{9, 5}})};
   const TestFolder folder;
   PrinterConfig config;
-  ASSERT_TRUE(config.Parse(folder.Write("a.ini", Definition(SlotLines({{1, 113}})))));
-  ASSERT_TRUE(config.Parse(folder.Write("b.ini", Definition(""))));
-  EXPECT_EQ(CategoriesOf(config), kDefaultCategories);
+  for (const int i : {1, 2, 0, 0, 2, 1, 0}) {
+    ASSERT_TRUE(config.Parse(folder.Write("a.ini", Definition(definitions[i]))));
+    const auto fresh = Parsed(definitions[i]);
+    EXPECT_EQ(TableOf(config.Colors), TableOf(fresh->Colors));
+    EXPECT_EQ(TableOf(config.InkTypes), TableOf(fresh->InkTypes));
+    EXPECT_EQ(config.InkSlotNum, fresh->InkSlotNum);
+    EXPECT_EQ(config.InkSlots.size(), fresh->InkSlots.size());
+    EXPECT_EQ(CategoriesOf(config), CategoriesOf(*fresh));
+  }
 }
 
 TEST(InkSlot, TheLibraryAsksForCodesAndNumbers) {

@@ -1,4 +1,6 @@
 // How this platform's locale decides the narrow encoding.
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "definition/PrinterConfig.h"
@@ -50,6 +52,22 @@ TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
   std::string narrow = "before";
   EXPECT_TRUE(ToNarrow(std::wstring{L'a', wchar_t{0xD83D}}, &narrow));
   EXPECT_EQ(narrow, "") << "what cannot be encoded empties the text";
+}
+
+// The environment names the encoding.
+TEST(CodePage932, BytesThatItLacksStayInPathsAndAreReplacedInTexts) {
+  for (const auto& [narrow, wide] :
+       {std::pair("a\x83", L"a\xDC83"), std::pair("\x81 \x83\x5C\xFF", L"\xDC81 \u30BD\xDCFF")}) {
+    EXPECT_EQ(WideCopy(narrow), wide);
+    EXPECT_EQ(NarrowCopy(wide), narrow);
+  }
+  EXPECT_EQ(NarrowCopy(L"\u30BD\u00FC"), "");
+  const TestFolder folder;
+  PrinterConfig config;
+  ASSERT_TRUE(config.Parse(folder.Write(
+      "a.ini", Definition(std::string("ModelName=\x83\x5C\x81 \x83\nIPAddress=1\0002\n", 31)))));
+  EXPECT_EQ(config.ModelName, "\x83\x5C? ?");
+  EXPECT_EQ(config.IPAddress, "1") << "a NUL is one";
 }
 
 TEST(PortableText, ADefinitionKeepsWhatTheEncodingCanDecode) {

@@ -32,15 +32,6 @@ std::vector<Fields> ModesOf(const std::string& lines) {
 
 const char* const kMode1 = "Mode1SliceSize=0.032\nMode1ColorThickness=0.5\nMode1=600,2\n";
 
-TEST(PrintModes, CompleteModesComeInListOrder) {
-  EXPECT_EQ(
-      ModesOf("Mode=1,2,x,3\nLimitationMode=3\n"
-              "Mode1SliceSize=0.032\nMode1ColorThickness=0.5\nMode1=600,2\n"
-              "Mode3SliceSize=0.016\nMode3ColorThickness=0.3\nMode3=1200,4\n"
-              "Mode3LimitedContinuous=10\n"),
-      (std::vector<Fields>{{1, 32, 500, 2, 600, false, -1}, {3, 16, 300, 4, 1200, true, 10}}));
-}
-
 TEST(PrintModes, EachKeyDecidesWhetherTheModeIsTaken) {
   const Fields plain = {1, 32, 500, 2, 600, false, -1};
   const struct {
@@ -50,6 +41,10 @@ TEST(PrintModes, EachKeyDecidesWhetherTheModeIsTaken) {
       {std::string("Mode=1,1\n") + kMode1, {plain, plain}},
       {std::string("Mode=\n") + kMode1, {}},
       {std::string("Mode=x,,\n") + kMode1, {}},
+      {std::string("Mode=3,x,1\n") + kMode1 +
+           "Mode3SliceSize=0.016\nMode3ColorThickness=0.3\n"
+           "Mode3=1200,4\nLimitationMode=2,3\n",
+       {{3, 16, 300, 4, 1200, true, -1}, plain}},
       {kMode1, {}},
       {std::string("Mode=1\nLimitationMode=2,9\n") + kMode1, {plain}},
       {std::string("Mode=1\nMode1LimitedContinuous=5\n") + kMode1, {{1, 32, 500, 2, 600, 0, 5}}},
@@ -60,6 +55,7 @@ TEST(PrintModes, EachKeyDecidesWhetherTheModeIsTaken) {
       {"Mode=1\nMode1SliceSize=0.032\nMode1ColorThickness=0.5\n", {}},
       {"Mode=1\nMode1SliceSize=0.032\nMode1ColorThickness=0.5\nMode1=600\n", {}},
       {"Mode=1\nMode1SliceSize=0.032\nMode1ColorThickness=0.5\nMode1=600,x\n", {}},
+      {"Mode=1\nMode1SliceSize=0.032\nMode1ColorThickness=0.5\nMode1=x,2\n", {}},
       {"Mode=1\nMode1SliceSize=0.0004\nMode1ColorThickness=0.5\nMode1=600,2,9\n",
        {{1, 0, 500, 2, 600, false, -1}}},
       {"Mode=-1\nMode-1SliceSize=-1\nMode-1ColorThickness=1e9\nMode-1=6,2\n",

@@ -36,6 +36,8 @@ TEST(PrinterConfig, OnlyVersionIsMandatory) {
   const TestFolder folder;
   EXPECT_TRUE(config.Parse(folder.Write("printer.ini", "[printer]\nModelName=M\n")));
   EXPECT_EQ(config.ModelName, "M");
+  config.ModelName.clear();
+  EXPECT_FALSE(config.Parse(folder.Write("printer.ini", Definition("")))) << "nor without a name";
 }
 
 TEST(PrinterConfig, AVersionAloneLeavesEveryDefault) {
@@ -149,6 +151,7 @@ TEST(PrinterConfig, SupportSizeFollowsExtentAndAngleUnlessSet) {
       {"SupportExtend=3\nSupportExtendAngle=2\n", 4},
       {"SupportExtend=3.5\nSupportExtendAngle=2\n", 5},
       {"SupportExtend=4\nSupportExtendAngle=2.0004\n", 6},
+      {"SupportExtend=4\nSupportExtendAngle=1.9996\n", 0},
       {"SupportExtend=2.5\n", 0},
       {"SupportExtend=4\nSupportExtendAngle=1e9\n", 0},
       {"SupportExtend=2\nSupportExtendAngle=2\nSupportSizeSetting=9\n", 9},

@@ -61,9 +61,10 @@ TEST(ValueConversion, DoublesConvertUpToTheFirstOtherCharacter) {
     bool converts;
     double value;
   } cases[] = {
-      {"1.5", true, 1.5},  {"1.5mm", true, 1.5},     {" -0.25", true, -0.25}, {"1e3", true, 1000.0},
-      {".5", true, 0.5},   {"1,5", true, 1.0},       {"1e999", false, -77.0}, {"mm", false, -77.0},
-      {".", false, -77.0}, {"-1e999", false, -77.0}, {"", false, -77.0},
+      {"1.5", true, 1.5},       {"1.5mm", true, 1.5}, {" -0.25", true, -0.25},
+      {"1e3", true, 1000.0},    {".5", true, 0.5},    {"1,5", true, 1.0},
+      {"1e999", false, -77.0},  {"mm", false, -77.0}, {".", false, -77.0},
+      {"-1e999", false, -77.0}, {"", false, -77.0},   {"1e-400", false, -77.0},
   };
   for (const auto& c : cases) {
     double narrow = -77.0;
