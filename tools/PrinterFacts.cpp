@@ -8,6 +8,7 @@
 #include "Failure.h"
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "TavrinRelease.h"
 
 namespace tavrin::tool {
 
@@ -102,12 +103,19 @@ void AskMachine(PrinterFacts* facts) {
       AskSigned("TavrinGetChippingAllowance", TavrinGetChippingAllowance);
 }
 
+struct Release {
+  void operator()(void* array) const { TavrinRelease(array); }
+};
+
+template <typename Element>
+using Owned = std::unique_ptr<Element[], Release>;
+
 /// Takes over the array that a slot hands out.
 std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
   char* text = nullptr;
   std::int32_t size = 0;
   if (!(slot.*get)(&text, &size) || text == nullptr) return {};
-  const std::unique_ptr<char[]> owned(text);
+  const Owned<char> owned(text);
   return text;
 }
 
@@ -133,7 +141,7 @@ std::vector<std::int32_t> SlotsOfCategory(std::int32_t index) {
   std::int32_t* numbers = nullptr;
   std::int32_t count = 0;
   if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
-  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  const Owned<std::int32_t> owned(numbers);
   return {numbers, numbers + count};
 }
 
