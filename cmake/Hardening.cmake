@@ -36,7 +36,7 @@ function(tavrin_harden target)
     target_link_options(${target} PRIVATE
       "$<${optimised}:-Wl,--nxcompat,--dynamicbase,--high-entropy-va>")
     # The checks themselves; statically, as all of the compiler's runtime.
-    target_link_libraries(${target} PUBLIC $<LINK_ONLY:$<${optimised}:ssp>>)
+    target_link_libraries(${target} PRIVATE $<${optimised}:ssp>)
   else()
     target_link_options(${target} PRIVATE "$<${optimised}:-Wl,-z,relro,-z,now>")
   endif()

@@ -14,13 +14,20 @@ namespace tavrin::tool {
 
 namespace {
 
-/// How long a load waits on Windows while another process has the plain copy.
-constexpr std::chrono::seconds kLongestWait(10);
+/// A load on Windows waits ten seconds while another process has the plain copy, by a clock that
+/// may be a little ahead.
+constexpr std::chrono::milliseconds kLongestWait(9500);
 
-bool LooksLikePlainIni(const Bytes& bytes) {
-  const std::string section = "[printer]";
-  return bytes.front() == '[' || bytes.front() == ';' ||
-         std::search(bytes.begin(), bytes.end(), section.begin(), section.end()) != bytes.end();
+bool IsText(unsigned char byte) {
+  return (byte >= ' ' && byte < 0x7F) || (byte >= '\t' && byte <= '\r');
+}
+
+/// Enciphered bytes are not text for long.
+bool IsPlainIni(const Bytes& bytes) {
+  const std::size_t length = std::min<std::size_t>(bytes.size(), 16);
+  return std::count_if(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length),
+                       IsText) == static_cast<std::ptrdiff_t>(length) ||
+         Reading(bytes).loads;
 }
 
 /// Whether the definition loads from a plain copy of another name.
@@ -33,7 +40,7 @@ bool LoadsElsewhere(Bytes bytes) {
 
 Failure ExplainLoadFailure(const std::string& file, std::chrono::milliseconds taken) {
   const Bytes bytes = ReadFile(file);
-  if (LooksLikePlainIni(bytes)) {
+  if (IsPlainIni(bytes)) {
     return {file, "looks like a plain INI file, not a printer definition",
             "make a definition of it with tavrin encipher"};
   }

@@ -8,9 +8,6 @@
 
 namespace tavrin::tool {
 
-namespace {
-
-/// A short name of its own: one made longer than the target's could be too long for the directory.
 std::filesystem::path UnusedPathBeside(const std::filesystem::path& target) {
   std::random_device random;
   std::filesystem::path path;
@@ -20,8 +17,6 @@ std::filesystem::path UnusedPathBeside(const std::filesystem::path& target) {
   } while (std::filesystem::exists(std::filesystem::symlink_status(path, error)));
   return path;
 }
-
-}  // namespace
 
 TemporaryFile::TemporaryFile(const std::filesystem::path& target)
     : target_(target),

@@ -7,6 +7,10 @@
 
 namespace tavrin::tool {
 
+/// A path beside target where nothing lies. Its name is short: one made longer than the target's
+/// could be too long for the directory.
+std::filesystem::path UnusedPathBeside(const std::filesystem::path& target);
+
 /// A new file beside the one whose place it takes at the end, so that the exchange never crosses
 /// file systems. Only its owner can read it; unless it is renamed it goes away with the object.
 class TemporaryFile {

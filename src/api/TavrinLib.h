@@ -20,7 +20,8 @@
 ///    no usable locale). On Windows, converting texts while a definition loads sets the process's
 ///    locale category LC_CTYPE to the user's.
 /// 6. Null. Output pointers must not be null, except where a function documents its answer.
-/// 7. Threads. Nothing is locked. Call from one thread at a time, and never initialise or finalise
+/// 7. Threads. None is kept from another. Call from one thread at a time, and never initialise or
+/// finalise
 ///    while another call runs.
 /// 8. Life. Answers are copied out and stay the caller's. The one exception is the #InkSlot of
 ///    TavrinGetInkSlot(), which the library owns: it is gone after TavrinFinalize() or the next
@@ -78,7 +79,8 @@ enum TavrinErrorCode {
 /// removed before the call returns.
 ///
 /// Other processes may load definitions of the same file name at the same time: what is loaded is
-/// the definition at path. On Windows the call waits for them, for ten seconds at the most.
+/// the definition at path. On Windows, where this holds within one session and unless the copy's
+/// place is taken by what cannot be removed, the call waits for them, for ten seconds at the most.
 ///
 /// Keys that are missing or cannot be read take their defaults silently; only "Version" must be
 /// there.

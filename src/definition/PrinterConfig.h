@@ -21,7 +21,9 @@ class PrinterConfig : public InkModel {
   /// plain copy lies in the temporary directory, for the profile functions read files alone; it is
   /// removed whatever the outcome.
   ///
-  /// @return false when the file is missing, empty or unreadable, or has no "Version".
+  /// @return false when the file is missing, empty or unreadable, or has no "Version", when there
+  /// is
+  ///         no plain copy to parse, and when on Windows another process had it for ten seconds.
   virtual bool Load(const std::string& path);
 
   /// Reads the plain definition file at path.

@@ -27,7 +27,11 @@ foreach(file IN LISTS FILES)
       # Every function that others can call; the start files of the system may lack the marks, so
       # the file as a whole does not promise them.
       ask(code ${OBJDUMP} -d --no-show-raw-insn ${file})
-      expect_in(${file} "marked targets of indirect jumps" "<(Tavrin[A-Za-z]+|main)>:\n[^\n]*\tendbr64" "${code}")
+      string(REGEX MATCHALL "<(Tavrin[A-Za-z]+|main)>:\n" functions "${code}")
+      expect_in(${file} "functions" ":" "${functions}")
+      foreach(function IN LISTS functions)
+        expect_in(${file} "mark at ${function}" "${function}[^\n]*\tendbr64" "${code}")
+      endforeach()
     endif()
   else()
     foreach(characteristic HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT)

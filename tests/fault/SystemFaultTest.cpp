@@ -61,10 +61,11 @@ class SystemFault : public SystemFaultTest {
     return folder.Write(path, Definition("ModelName=Planted\n"));
   }
 
-  /// Another printer's definition lies where the plain copy can be neither replaced nor removed.
-  Situation LockedPlainCopy() const {
+  /// Another printer's definition lies in the plain copy's place, another user's where the tests
+  /// run as root, in a directory of these rights.
+  Situation PlantedPlainCopy(mode_t rights) const {
     Situation copy = AtThePlainCopy([&](auto path) { Plant(path); });
-    return Until([copy, rights = Rights(temporary, 0555)]() mutable { rights.reset(); });
+    return Until([copy, rights = Rights(temporary, rights)]() mutable { rights.reset(); });
   }
 
   const std::string precious = folder.Write("precious", "precious");
@@ -75,6 +76,7 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
   using std::filesystem::create_hard_link;
   using std::filesystem::create_symlink;
   const std::string longName = std::string(240, 'n') + ".dat";
+  const bool isRoot = geteuid() == 0;
   const struct {
     const char* name;
     std::function<Situation()> begin;
@@ -101,8 +103,12 @@ TEST_F(SystemFault, AnInitialisationSucceedsOrLoadsNothing) {
        definition, true},
       {"empty directory at the plain copy",
        [&] { return AtThePlainCopy([](auto path) { create_directories(path); }); }, false},
-      {"file at the plain copy that cannot be replaced", [&] { return LockedPlainCopy(); }, false,
-       definition, true},
+      {"file at the plain copy that nobody can replace", [&] { return PlantedPlainCopy(0555); },
+       false, definition, true},
+      {"file at the plain copy that only its owner can replace",
+       [&] { return PlantedPlainCopy(01777); }, !isRoot, definition, isRoot},
+      {"file at the plain copy that everyone can replace", [&] { return PlantedPlainCopy(0777); },
+       true},
       {"read-only file at the plain copy",
        [&] { return AtThePlainCopy([&](auto path) { chmod(Plant(path).c_str(), 0400); }); }, true},
       {"pipe at the plain copy",

@@ -1,6 +1,7 @@
 // One of several processes of one program that load definitions of the same file name at the same
-// time: rival_loads FOLDER MODEL COUNT loads FOLDER/printer.dat, which it makes first, COUNT times
-// and holds each load to the model name that it wrote.
+// time: rival_loads FOLDER MODEL COUNT TEMPORARY loads FOLDER/printer.dat, which it makes first,
+// COUNT times with the temporary directory TEMPORARY and holds each load to the model name that it
+// wrote.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -22,6 +23,14 @@ std::string MakeDefinition(const std::filesystem::path& folder, const std::strin
   return file.string();
 }
 
+void SetTemporaryDirectory(const std::filesystem::path& directory) {
+  static std::string settings[] = {"TMPDIR=", "TMP=", "TEMP="};  // the environment keeps them
+  for (std::string& setting : settings) {
+    setting += std::filesystem::absolute(directory).string();
+    putenv(setting.data());
+  }
+}
+
 std::string LoadedModel() {
   char info[384] = {};
   return TavrinGetInfo(info) ? info : "";
@@ -30,7 +39,8 @@ std::string LoadedModel() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 4) return 2;
+  if (argc != 5) return 2;
+  SetTemporaryDirectory(argv[4]);
   const std::string model = argv[2];
   const std::string definition = MakeDefinition(argv[1], model);
   const long count = std::strtol(argv[3], nullptr, 10);

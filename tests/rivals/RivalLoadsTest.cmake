@@ -1,18 +1,14 @@
 # Lets two processes of one program load definitions of the same name at the same time:
-# cmake -DPROGRAM=... -DCOUNT=... -DTMPDIR=on|off -DWORK=... -P RivalLoadsTest.cmake
-# Where the platform lets TMPDIR choose, they have a temporary directory of their own.
+# cmake -DPROGRAM=... -DCOUNT=... -DWORK=... -P RivalLoadsTest.cmake
 cmake_minimum_required(VERSION 3.22)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/temporary)
-if(TMPDIR)
-  set(ENV{TMPDIR} ${WORK}/temporary)
-endif()
 
 # The commands of one call run at the same time.
 execute_process(
-  COMMAND ${PROGRAM} ${WORK}/a ModelA ${COUNT}
-  COMMAND ${PROGRAM} ${WORK}/b ModelB ${COUNT}
+  COMMAND ${PROGRAM} ${WORK}/a ModelA ${COUNT} ${WORK}/temporary
+  COMMAND ${PROGRAM} ${WORK}/b ModelB ${COUNT} ${WORK}/temporary
   ERROR_VARIABLE account RESULTS_VARIABLE results)
 message(STATUS "${account}")
 if(NOT results STREQUAL "0;0")

@@ -1,7 +1,10 @@
 // What other processes of the session do to a load; threads stand for them, as a mutex knows only
 // threads.
 #include <chrono>
+#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <memory>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -38,14 +41,43 @@ TEST(WindowsPlainCopy, ALoadWaitsTenSecondsForAnotherProcessThenTouchesNothing) 
   EXPECT_EQ(test::ReadWhole(inUpperCase), "the other's");
 }
 
-TEST(WindowsPlainCopy, AProcessThatEndedInTheMiddleOfALoadHoldsNobodyUp) {
+TEST(WindowsPlainCopy, WhatLiesInItsPlaceIsNeitherReadNorWritten) {
+  namespace fs = std::filesystem;
   const TestFolder folder;
-  const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
+  const std::string path = folder.WriteEnciphered("printer.dat", Definition("ModelName=Own\n"));
+  const std::string foreign = Definition("ModelName=Planted\n");
+  const fs::path planted = folder.Write("planted", foreign);
+  const fs::path copy = MakeTemporaryPath(path);
   // Never destroyed by the thread that made it.
-  platform::PlainCopy* abandoned = nullptr;
-  std::thread([&] { abandoned = new platform::PlainCopy(MakeTemporaryPath(path)); }).join();
-  EXPECT_TRUE(PrinterConfig().Load(path));
-  delete abandoned;
+  std::unique_ptr<platform::PlainCopy> abandoned;
+  const struct {
+    const char* name;
+    std::function<void()> place;
+  } situations[] = {
+      {"file", [&] { fs::copy_file(planted, copy); }},
+      {"read-only file",
+       [&] {
+         fs::copy_file(planted, copy);
+         fs::permissions(copy, fs::perms::owner_read);
+       }},
+      {"another name of a file", [&] { fs::create_hard_link(planted, copy); }},
+      {"file of a process that ended in the middle of its load",
+       [&] {
+         std::thread([&] {
+           abandoned = std::make_unique<platform::PlainCopy>(copy.string());
+           fs::copy_file(planted, copy);
+         }).join();
+       }},
+  };
+  for (const auto& situation : situations) {
+    SCOPED_TRACE(situation.name);
+    situation.place();
+    PrinterConfig config;
+    EXPECT_TRUE(config.Load(path));
+    EXPECT_EQ(config.ModelName, "Own");
+    EXPECT_FALSE(fs::exists(copy));
+    EXPECT_EQ(test::ReadWhole(planted.string()), foreign);
+  }
 }
 
 }  // namespace

@@ -24,17 +24,16 @@ std::filesystem::path TemporaryDirectory() {
   return ToPath(MakeTemporaryPath("")).parent_path();
 }
 
-/// The reading code reads files alone.
-class PlainCopy : public TemporaryFile {
+/// The reading code reads files alone. The name is one that no load uses.
+class CopyToRead : public platform::PlainCopy {
  public:
-  explicit PlainCopy(const Bytes& plain) : TemporaryFile(TemporaryDirectory() / "definition.ini") {
-    if (Stream() == nullptr ||
-        std::fwrite(plain.data(), 1, plain.size(), Stream()) != plain.size() || !Close()) {
-      throw Failure("temporary directory " + ToArgument(Path().parent_path()),
-                    "takes no file: " + std::generic_category().message(errno),
-                    "check its permissions and free space, or name another one in TMPDIR, on "
-                    "Windows in TMP");
-    }
+  explicit CopyToRead(const Bytes& plain)
+      : PlainCopy(ToArgument(UnusedPathBeside(TemporaryDirectory() / "definition.ini"))) {
+    if (Write(plain.data(), static_cast<std::uint32_t>(plain.size())) && WroteAll()) return;
+    throw Failure("temporary directory " + ToArgument(TemporaryDirectory()),
+                  "takes no file: " + std::generic_category().message(errno),
+                  "check its permissions and free space, or name another one in TMPDIR, on Windows "
+                  "in TMP");
   }
 };
 
@@ -46,11 +45,9 @@ bool IsKnown(const TextFormat& format, const Bytes& plain) {
     probe.resize(probe.size() + format.unitLength);
     probe[probe.size() - format.unitLength + format.lowByte] = static_cast<unsigned char>(c);
   }
-  const PlainCopy copy(probe);
+  const CopyToRead copy(probe);
   bool isKnown = false;
-  IniSnapshot(copy.Path().wstring()).ListKeys(kPrinterSection, [&](std::wstring_view) {
-    isKnown = true;
-  });
+  IniSnapshot(copy).ListKeys(kPrinterSection, [&](std::wstring_view) { isKnown = true; });
   return isKnown;
 }
 
@@ -70,8 +67,8 @@ bool IsReadOf(const WatchedRead& read, const std::string& value) {
 }  // namespace
 
 Reading::Reading(const Bytes& plain) : lines(IndexOf(plain)), knownKeys(ListKnownKeys()) {
-  const PlainCopy copy(plain);
-  WatchedIni ini(copy.Path().wstring());
+  const CopyToRead copy(plain);
+  WatchedIni ini(copy);
   loads = config->ParseOpened(ini);
   if (!loads) {
     // Nothing behind the version was read, and its keys shall not all look unknown.

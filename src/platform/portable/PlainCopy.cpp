@@ -17,9 +17,9 @@ PlainCopy::~PlainCopy() {
 bool PlainCopy::Write(const unsigned char* block, std::uint32_t n) {
   state_->file = CreateOwnerOnly(path_);
   state_->size = n;
-  if (!state_->file.IsOpen()) return false;
-  WriteAt(state_->file, {reinterpret_cast<const char*>(block), n}, 0);
-  return true;
+  wroteAll_ =
+      state_->file.IsOpen() && WriteAt(state_->file, {reinterpret_cast<const char*>(block), n}, 0);
+  return state_->file.IsOpen();
 }
 
 }  // namespace tavrin::platform

@@ -38,11 +38,21 @@ std::wstring MutexNameOf(const std::wstring& path) {
   return L"TavrinLib-" + std::to_wstring(hash);
 }
 
-void WriteFileAt(const std::string& path, const unsigned char* block, std::uint32_t n) {
+/// Removes the file at path, a read-only one too. What it links to, or is another name of, stays.
+bool RemoveFile(const wchar_t* path) {
+  if (DeleteFileW(path)) return true;
+  const DWORD attributes = GetFileAttributesW(path);
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0)
+    return false;
+  SetFileAttributesW(path, attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+  return DeleteFileW(path);
+}
+
+bool WriteFileAt(const std::string& path, const unsigned char* block, std::uint32_t n) {
   std::FILE* file = CreateOwnerOnlyFile(path);
-  if (file == nullptr) return;
-  static_cast<void>(std::fwrite(block, 1, n, file));
-  std::fclose(file);
+  if (file == nullptr) return false;
+  const bool wroteAll = std::fwrite(block, 1, n, file) == n;
+  return std::fclose(file) == 0 && wroteAll;
 }
 
 }  // namespace
@@ -56,12 +66,13 @@ PlainCopy::PlainCopy(const std::string& path) : path_(path), state_(std::make_un
 
 PlainCopy::~PlainCopy() {
   if (!state_->mutex.IsHeld()) return;
-  if (std::remove(path_.c_str()) != 0) RemoveDirectoryW(state_->path.c_str());
+  if (!RemoveFile(state_->path.c_str())) RemoveDirectoryW(state_->path.c_str());
 }
 
 bool PlainCopy::Write(const unsigned char* block, std::uint32_t n) {
   if (!state_->mutex.IsHeld()) return false;
-  WriteFileAt(path_, block, n);
+  RemoveFile(state_->path.c_str());
+  wroteAll_ = WriteFileAt(path_, block, n);
   return FileExists(state_->path);
 }
 
