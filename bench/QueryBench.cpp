@@ -3,6 +3,7 @@
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "TavrinRelease.h"
 #include "bench/BenchDefinition.h"
 #include "bench/EmptyExport.h"
 
@@ -73,7 +74,7 @@ void InkName(benchmark::State& state) {
     char* name = nullptr;
     int32_t size = 0;
     slot->GetInkName(&name, &size);
-    delete[] name;
+    TavrinRelease(name);
     return size;
   });
 }
@@ -83,7 +84,7 @@ void InkCategory(benchmark::State& state) {
     int32_t* numbers = nullptr;
     int32_t count = 0;
     TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &count);
-    delete[] numbers;
+    TavrinRelease(numbers);
     return count;
   });
 }

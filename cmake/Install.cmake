@@ -14,6 +14,12 @@ install(TARGETS TavrinLib EXPORT TavrinLib
   PUBLIC_HEADER DESTINATION ${include_dir}
   INCLUDES DESTINATION ${include_dir})
 
+# What hosts of other compilers link with; there are none but on Windows.
+get_target_property(import_files TavrinLib TAVRIN_IMPORT_FILES)
+if(import_files)
+  install(FILES ${import_files} DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
+
 # The library needs no other package, so its targets are the whole configuration.
 install(EXPORT TavrinLib NAMESPACE TavrinLib:: FILE TavrinLibConfig.cmake
   DESTINATION ${package_dir})

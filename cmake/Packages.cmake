@@ -7,7 +7,7 @@ set(CPACK_STRIP_FILES ON)
 set(system ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
 if(WIN32)
   set(CPACK_GENERATOR ZIP)
-  # The class InkSlot is bound to the compiler family, so the name tells it.
+  # Any host can use either, but they differ in the import libraries.
   if(MINGW)
     string(APPEND system -mingw)
   else()

@@ -6,6 +6,7 @@
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "TavrinRelease.h"
 
 namespace {
 
@@ -61,7 +62,7 @@ bool PrintInks() {
     char* name = nullptr;
     std::int32_t size = 0;
     slot->GetInkName(&name, &size);
-    const std::unique_ptr<char[]> owned(name);  // the array is the host's to free
+    const std::unique_ptr<char, void (*)(void*)> owned(name, TavrinRelease);
     std::printf("Slot %u: %s\n", number, slot->IsValid() ? name : "unknown ink");
   }
   return true;

@@ -26,11 +26,11 @@
 /// 8. Life. Answers are copied out and stay the caller's. The one exception is the #InkSlot of
 ///    TavrinGetInkSlot(), which the library owns: it is gone after TavrinFinalize() or the next
 ///    TavrinInitialize().
-/// 9. Memory. Arrays that the library hands out belong to the caller, who frees them with the C++
-///    `delete[]` of the runtime that the library is built with; there is no function for it. Only
-///    an exhausted allocation can leave a function as a C++ exception. It then has recorded and
-///    handed out nothing and left no file; after TavrinInitialize() no definition is loaded. On
-///    Windows the process may end instead where not even the exception finds memory.
+/// 9. Memory. Arrays that the library hands out belong to the caller, who gives them back with
+///    TavrinRelease() of TavrinRelease.h. Only an exhausted allocation can leave a function as a
+///    C++ exception. It then has recorded and handed out nothing and left no file; after
+///    TavrinInitialize() no definition is loaded. On Windows the process may end instead where not
+///    even the exception finds memory.
 #ifndef TAVRIN_LIB_H
 #define TAVRIN_LIB_H
 
@@ -281,7 +281,7 @@ TAVRIN_API bool TavrinGetItemCountOfInkCategory(uint32_t* count);
 /// Asks for the numbers of the ink slots that make up one ink category.
 ///
 /// @param index position of the category, from 0.
-/// @param numbers receives a new array of slot numbers, which the caller frees with `delete[]`.
+/// @param numbers receives a new array of slot numbers, for TavrinRelease().
 /// @param count receives the number of elements of the array.
 /// @return false with #ErrorNotInitialized when no definition is loaded; false with #ErrorFailed
 ///         when there is no category at index or it has no slots. Both outputs are then untouched.
@@ -296,9 +296,9 @@ TAVRIN_API bool TavrinGetInkSlotNumConposeInkCategory(int32_t index, int32_t** n
 /// @return false with #ErrorNotInitialized when no definition is loaded.
 TAVRIN_API bool TavrinGetItemCountOfInkSlot(uint32_t* count);
 
-/// Asks for an ink slot, an object of the C++ class that InkSlot.h declares. One that names a
-/// colour or an ink type that the definition does not describe is there all the same; its IsValid()
-/// says so.
+/// Asks for an ink slot, which InkSlot.h declares: a class in C++, a table of functions in C. One
+/// that names a colour or an ink type that the definition does not describe is there all the same;
+/// its IsValid() says so.
 ///
 /// @param slotNumber the slot's number, from 1.
 /// @param slot receives the slot, which stays the library's; null when there is none of that

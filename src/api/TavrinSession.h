@@ -1,9 +1,15 @@
 /// @file
 /// A C++17 layer over the exports of TavrinLib: a session that loads and releases, values that are
 /// returned, lengths in units of their own, failures that are thrown. Header-only; it uses the
-/// exports and class InkSlot alone, and what TavrinLib.h says of them holds here too.
+/// exports, class InkSlot and TavrinRelease() alone, and what TavrinLib.h says of them holds here
+/// too.
 #ifndef TAVRIN_SESSION_H
 #define TAVRIN_SESSION_H
+
+/* Microsoft's compiler tells the language in a macro of its own. */
+#if __cplusplus < 201703L && (!defined(_MSVC_LANG) || _MSVC_LANG < 201703L)
+#error "TavrinSession.h needs C++17 (-std=c++17, /std:c++17)"
+#else
 
 #include <algorithm>
 #include <cstdint>
@@ -16,6 +22,7 @@
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "TavrinRelease.h"
 
 /// The C++17 layer over the exports.
 namespace tavrinlib {
@@ -297,12 +304,18 @@ class Session {
     return mode;
   }
 
+  struct Release {
+    void operator()(void* array) const { TavrinRelease(array); }
+  };
+  template <typename Element>
+  using Owned = std::unique_ptr<Element[], Release>;
+
   static std::string TextOf(const InkSlot& slot,
                             bool (InkSlot::*get)(char**, std::int32_t*) const) {
     char* text = nullptr;
     std::int32_t size = 0;
     (slot.*get)(&text, &size);
-    const std::unique_ptr<char[]> owned(text);
+    const Owned<char> owned(text);
     return text == nullptr ? std::string() : std::string(text);
   }
 
@@ -325,7 +338,7 @@ class Session {
     std::int32_t* numbers = nullptr;
     std::int32_t count = 0;
     if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
-    const std::unique_ptr<std::int32_t[]> owned(numbers);
+    const Owned<std::int32_t> owned(numbers);
     return Category(numbers, numbers + count);
   }
 
@@ -333,5 +346,7 @@ class Session {
 };
 
 }  // namespace tavrinlib
+
+#endif
 
 #endif

@@ -25,7 +25,7 @@ class InkCategoryImpl {
 
   /// Hands out the numbers of the slots, in the order added.
   ///
-  /// @param numbers receives a new array that the caller frees with delete[].
+  /// @param numbers receives a new array for the host's TavrinRelease().
   /// @param count receives the number of its elements.
   /// @return false, both outputs untouched, when there are no slots.
   bool ListSlotNumbers(std::int32_t** numbers, std::int32_t* count) const;

@@ -13,7 +13,7 @@ std::string FormatThreeDigits(std::int32_t value);
 /// "234". Always true.
 bool FormatLastThreeDigits(std::int32_t value, std::string* text);
 
-/// Hands text out as a new NUL-terminated array that the caller frees with delete[].
+/// Hands text out as a new NUL-terminated array for the host's TavrinRelease().
 ///
 /// @param array receives the array.
 /// @param size receives the length of text plus one.

@@ -57,7 +57,7 @@ function(tavrin_write_sample block stem file is_program)
   string(REPLACE "${tavrin_closing}" "]" code "${code}")
   if(NOT code MATCHES "#include")
     set(headers <cstdint> <cstdio> <memory> <string> <vector>
-      "\"InkSlot.h\"" "\"TavrinLib.h\"" "\"TavrinSession.h\"")
+      "\"InkSlot.h\"" "\"TavrinLib.h\"" "\"TavrinRelease.h\"" "\"TavrinSession.h\"")
     list(TRANSFORM headers PREPEND "#include ")
     list(JOIN headers "\n" headers)
     string(PREPEND code "${headers}\n")

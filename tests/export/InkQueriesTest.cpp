@@ -1,9 +1,9 @@
 #include <functional>
-#include <memory>
 #include <vector>
 
 #include "InkSlot.h"
 #include "export/ExportTest.h"
+#include "support/Owned.h"
 
 namespace tavrin::test {
 namespace {
@@ -16,7 +16,7 @@ Numbers SlotsOfCategory(std::int32_t index) {
   std::int32_t* numbers = nullptr;
   std::int32_t count = -1;
   if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
-  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  const Owned<std::int32_t> owned(numbers);
   return Numbers(numbers, numbers + count);
 }
 
@@ -26,7 +26,7 @@ std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_
   std::int32_t size = -1;
   EXPECT_TRUE((slot.*get)(&text, &size));
   if (text == nullptr) return "null of size " + std::to_string(size);
-  const std::unique_ptr<char[]> owned(text);
+  const Owned<char> owned(text);
   EXPECT_EQ(text[size - 1], '\0');
   return std::string(text, static_cast<std::size_t>(size - 1));
 }

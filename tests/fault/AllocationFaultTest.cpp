@@ -9,6 +9,7 @@
 #include <locale.h>
 
 #include "InkSlot.h"
+#include "TavrinRelease.h"
 #include "fault/SystemFaultTest.h"
 
 namespace {
@@ -132,7 +133,7 @@ void ExpectBothOrNeither(Get get) {
                      [&](Result result) {
                        EXPECT_EQ(array != nullptr, result == Result::True);
                        EXPECT_EQ(count != 77, result == Result::True);
-                       delete[] array;
+                       TavrinRelease(array);
                        array = nullptr;
                        count = 77;
                      });
@@ -205,7 +206,7 @@ TEST_F(AllocationFault, OnlyWhatHandsOutAnArrayAllocates) {
   std::int32_t count = 0;
   char* id = nullptr;
   EXPECT_EQ(RequestsOf([&] { return slot->GetInkId(&id, &count); }), 1) << "what an array takes";
-  delete[] id;
+  TavrinRelease(id);
 }
 
 }  // namespace

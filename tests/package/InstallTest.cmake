@@ -3,6 +3,7 @@
 #   BUILD, SOURCE, WORK                its tree, the project, a directory of the test's own
 #   C_COMPILER, CXX_COMPILER, GENERATOR, CROSS    for the hosts
 #   EMULATOR                           what programs run under, if anything
+#   CLANG, LLD_LINK, DLLTOOL, HEADERS  for a host of Microsoft's binary interface, with FORMAT pe
 cmake_minimum_required(VERSION 3.22)
 include(${CMAKE_CURRENT_LIST_DIR}/Files.cmake)
 
@@ -47,6 +48,26 @@ foreach(host cpp_host session_host)
   endif()
 endforeach()
 ask(log ${CMAKE_COMMAND} -E compare_files ${WORK}/compact.dat ${WORK}/conditions.dat)
+
+# expect_inks(<host>): it lists the inks of an example definition, and what it checks passes.
+function(expect_inks host)
+  run(${host} full-colour.dat)
+  string(REPLACE "\r\n" "\n" output "${output}")
+  string(REGEX REPLACE "(pass|skip)  [^\n]+\n" "" inks "${output}")
+  file(READ ${SOURCE}/tests/hosts/full-colour.expected expected)
+  if(NOT inks STREQUAL expected)
+    message(SEND_ERROR "${host} answers\n${output}")
+  endif()
+endfunction()
+
+run(${prefix}/bin/tavrin${suffix} encipher ${SOURCE}/examples/full-colour.ini full-colour.dat)
+expect_inks(${hosts}/ink_host${suffix})
+if(FORMAT STREQUAL "pe")
+  include(${CMAKE_CURRENT_LIST_DIR}/MicrosoftHost.cmake)
+  link_microsoft_host(${hosts}/microsoft_first_run.exe)
+  expect_inks(${hosts}/first_run.exe)
+  expect_inks(${hosts}/microsoft_first_run.exe)
+endif()
 
 set(ENV{PKG_CONFIG_LIBDIR} ${prefix}/${LIBDIR}/pkgconfig)
 ask(version pkg-config --modversion TavrinLib)

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include <memory>
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
+#include "support/Owned.h"
 #include "support/TestFiles.h"
 
 namespace tavrin::test {
@@ -118,7 +118,7 @@ void AskCategory(Answers* answers, std::int32_t index) {
   std::int32_t* numbers = nullptr;
   std::int32_t count = 0;
   const bool known = TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count);
-  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  const Owned<std::int32_t> owned(numbers);
   std::string list;
   for (std::int32_t i = 0; i < count; ++i)
     list += std::to_string(numbers[i]) + ',';
@@ -140,7 +140,7 @@ void AddText(Answers* answers, const char* question, const InkSlot& slot,
   char* text = nullptr;
   std::int32_t size = -1;
   const bool result = (slot.*get)(&text, &size);
-  const std::unique_ptr<char[]> owned(text);
+  const Owned<char> owned(text);
   answers->Add(question, result, size,
                text == nullptr ? "none" : Hex(text, static_cast<std::size_t>(size)));
   answers->Add(question + std::string(" null"), (slot.*get)(nullptr, &size), size);

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "definition/PrinterConfig.h"
+#include "support/Owned.h"
 #include "support/TestFiles.h"
 
 namespace tavrin {
 namespace {
 
 using test::Definition;
+using test::Owned;
 using test::TestFolder;
 
 using Slots = std::vector<std::int32_t>;
@@ -34,7 +36,7 @@ Slots SlotsOf(const InkCategoryImpl& category) {
   std::int32_t* numbers = nullptr;
   std::int32_t count = 0;
   if (!category.ListSlotNumbers(&numbers, &count)) return {};
-  const std::unique_ptr<std::int32_t[]> owned(numbers);
+  const Owned<std::int32_t> owned(numbers);
   return Slots(numbers, numbers + count);
 }
 

@@ -1,7 +1,6 @@
-#include <memory>
-
 #include <gtest/gtest.h>
 
+#include "support/Owned.h"
 #include "util/TextUtilities.h"
 
 namespace tavrin {
@@ -35,7 +34,7 @@ TEST(TextUtilities, TextsAreHandedOutAsArrays) {
   EXPECT_EQ(array, nullptr);
   EXPECT_EQ(size, -1);
   ASSERT_TRUE(CopyToByteArray("a", &array, &size));
-  const std::unique_ptr<char[]> owned(array);
+  const test::Owned<char> owned(array);
   EXPECT_EQ(size, 2);
   EXPECT_STREQ(array, "a");
 }

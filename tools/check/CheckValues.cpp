@@ -45,6 +45,17 @@ std::wstring::const_iterator EndOfNumber(const std::wstring& field, bool isInteg
   return begin + (after - text.c_str());
 }
 
+/// Whether the text begins with a digit of another script, which may look like one of ASCII.
+bool BeginsWithForeignDigit(const std::wstring& field) {
+  // The zeros of the scripts whose digits the Windows runtime knows.
+  static constexpr wchar_t kZeros[] = {0x0660, 0x06F0, 0x0966, 0x09E6, 0x0A66, 0x0AE6,
+                                       0x0B66, 0x0C66, 0x0CE6, 0x0D66, 0x0E50, 0x0ED0,
+                                       0x0F20, 0x1040, 0x17E0, 0x1810, 0xFF10};
+  const wchar_t first = field.substr(0, 1 + field.find_first_not_of(L" \t+-")).back();
+  return std::any_of(std::begin(kZeros), std::end(kZeros),
+                     [&](wchar_t zero) { return first >= zero && first <= zero + 9; });
+}
+
 /// Looks at one read.
 class ValueCheck {
  public:
@@ -162,7 +173,12 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
   std::string written;
   const auto end = EndOfNumber(field, isInteger, &written);
   const std::string quoted = Quoted(NarrowCopy(field));
-  if (isInteger ? !ParseInt(field, &integer) : !ParseDouble(field, &number)) {
+  const bool converts = isInteger ? ParseInt(field, &integer) : ParseDouble(field, &number);
+  if (!converts && BeginsWithForeignDigit(field)) {
+    Warn(quoted + " has digits beyond ASCII", Outcome(), "write it in the digits 0 to 9");
+    return;
+  }
+  if (!converts) {
     const bool isNumber = !isInteger && !written.empty();
     Warn(quoted + (isInteger  ? " is no 32-bit integer"
                    : isNumber ? " is out of the range of numbers"
