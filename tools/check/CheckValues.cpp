@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <cwchar>
+#include <iterator>
 #include <limits>
 #include <string>
 
@@ -51,9 +53,11 @@ bool BeginsWithForeignDigit(const std::wstring& field) {
   static constexpr wchar_t kZeros[] = {0x0660, 0x06F0, 0x0966, 0x09E6, 0x0A66, 0x0AE6,
                                        0x0B66, 0x0C66, 0x0CE6, 0x0D66, 0x0E50, 0x0ED0,
                                        0x0F20, 0x1040, 0x17E0, 0x1810, 0xFF10};
-  const wchar_t first = field.substr(0, 1 + field.find_first_not_of(L" \t+-")).back();
-  return std::any_of(std::begin(kZeros), std::end(kZeros),
-                     [&](wchar_t zero) { return first >= zero && first <= zero + 9; });
+  const auto first = std::find_if_not(
+      field.begin(), field.end(), [](wchar_t c) { return std::wcschr(L" \t+-", c) != nullptr; });
+  return first != field.end() &&
+         std::any_of(std::begin(kZeros), std::end(kZeros),
+                     [&](wchar_t zero) { return *first >= zero && *first <= zero + 9; });
 }
 
 /// Looks at one read.
