@@ -1,7 +1,9 @@
-# Runs the tool as its users do: cmake -DTOOL=... -DPROJECT=... -DUTF8=... -DWORK=... -P ToolTest.cmake
+# Runs the tool as its users do: cmake -DTOOL=... -DPROJECT=... -DUTF8=... -DLOCALES=... -DWORK=...
+#   -P ToolTest.cmake
 #   TOOL     the tool's command, behind its emulator where it needs one
 #   PROJECT  the directory of the sources
 #   UTF8     whether the process's encoding is UTF-8
+#   LOCALES  the directory of the locale en_US.CP1252; empty where none is to be tried
 #   WORK     a directory of the test's own, emptied first
 cmake_minimum_required(VERSION 3.22)
 set(RUNNER ${TOOL})

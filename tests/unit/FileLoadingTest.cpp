@@ -1,8 +1,10 @@
+#include <fstream>
 #include <functional>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "definition/FileBytes.h"
 #include "definition/FileLoader.h"
 #include "definition/IniFile.h"
 #include "definition/PrinterConfig.h"
@@ -73,10 +75,25 @@ TEST(FileLoader, AFileThatChangesAfterItsSizeWasAskedKeepsThatSize) {
        {std::pair("ab", std::string("ab\0\0", 4)), std::pair("", std::string(4, '\0')),
         std::pair("abcdef", std::string("abcd"))}) {
     const std::string path = folder.Write("printer.dat", "1234");
-    WatchedLoader loader([&, text = rewritten] { folder.Write("printer.dat", text); });
+    WatchedLoader loader([&, text = rewritten] {
+      EXPECT_EQ(ReadWhole(path), "1234") << "open for reading to others, too";
+      folder.Write("printer.dat", text);
+    });
     EXPECT_TRUE(loader.LoadFromFile(path));
     EXPECT_EQ(std::string(loader.Data(), loader.Data() + loader.Size()), expected);
   }
+}
+
+TEST(FileBytes, AnEmptyBlockMakesNoFileAndAnOpenFileIsShared) {
+  const TestFolder folder;
+  const std::string path = folder.PathOf("file");
+  const unsigned char byte = 'x';
+  EXPECT_FALSE(WriteFileBytes(path, &byte, 0));
+  EXPECT_FALSE(WriteFileBytes(path, nullptr, 1));
+  EXPECT_FALSE(std::filesystem::exists(path));
+  std::FILE* file = CreateOwnerOnlyFile(path);
+  EXPECT_TRUE(std::ifstream(path).is_open());
+  EXPECT_EQ(std::fclose(file), 0);
 }
 
 TEST(TemporaryPath, NameComesFromTheHostAndTheDefinition) {

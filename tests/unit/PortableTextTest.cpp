@@ -23,10 +23,10 @@ TEST(PortableText, WithoutAUsableLocaleNarrowTextIsUtf8) {
       const wchar_t* wide;
     } cases[] = {
         {"plain", L"plain"},
-        {"\xC3\xA9", L"\u00E9"},
+        {"\xC2\x80", L"\u0080"},
+        {"\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF", L"\u07FF\u0800\uFFFF"},
         {"\xE2\x82\xAC.", L"\u20AC."},
-        {"\xF0\x9F\x98\x80", L"\U0001F600"},
-        {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", L"\U00010000\U0010FFFF"},
         {"", L""},
     };
     for (const auto& c : cases) {
@@ -40,8 +40,13 @@ TEST(PortableText, BytesThatAreNoUtf8ComeBackUnchanged) {
   const auto choice = Variable("LC_ALL", "C.UTF-8");
   for (const char* path :
        {"caf\xE9.dat", "\x80\xFF", "\xC0\xAF", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80",
-        "\xF4\x90\x80\x80", "\xE0\x80\x80", "a\xF0\x9F\x98"}) {
-    EXPECT_EQ(NarrowCopy(WideCopy(path)), path);
+        "\xF4\x90\x80\x80", "\xE0\x80\x80", "\xF0\x8F\xBF\xBF", "a\xF0\x9F\x98"}) {
+    std::wstring escaped;
+    for (const char* byte = path; *byte != '\0'; ++byte)
+      escaped +=
+          static_cast<wchar_t>(*byte < 0 ? 0xDC00 + static_cast<unsigned char>(*byte) : *byte);
+    EXPECT_EQ(WideCopy(path), escaped);
+    EXPECT_EQ(NarrowCopy(escaped), path);
   }
 }
 
@@ -49,9 +54,11 @@ TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
   const auto choice = Variable("LC_ALL", "C.UTF-8");
   EXPECT_EQ(WideCopy(std::string("a\0b", 3)), L"a");
   EXPECT_EQ(NarrowCopy(std::wstring(L"a\0b", 3)), "a");
-  std::string narrow = "before";
-  EXPECT_TRUE(ToNarrow(std::wstring{L'a', wchar_t{0xD83D}}, &narrow));
-  EXPECT_EQ(narrow, "") << "what cannot be encoded empties the text";
+  for (const wchar_t c : {0xD83D, 0xDC7F, 0xDD00, 0x110000}) {
+    std::string narrow = "before";
+    EXPECT_TRUE(ToNarrow(std::wstring{L'a', c}, &narrow));
+    EXPECT_EQ(narrow, "") << "what cannot be encoded empties the text";
+  }
 }
 
 // The environment names the encoding.

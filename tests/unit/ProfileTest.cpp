@@ -53,6 +53,27 @@ TEST(Profile, KeysAndSectionsOfOneNameStayApart) {
     EXPECT_EQ(Read(Wide(folder.Write("a.ini", content)), L"S", L"K"), L"v") << content;
 }
 
+TEST(Profile, NamesFoldTheLettersAlone) {
+  const TestFolder folder;
+  const std::string keys = "@azAZ[`{=w\n`AZaz{@[=v\n";
+  for (const std::string head : {"", ";\xC3\xA9\n"}) {
+    const auto path = Wide(folder.Write("a.ini", head + "[zz@[]\n" + keys + "[ZZ`[]\nK=v\n"));
+    EXPECT_EQ(Read(path, L"zz`[", L"k"), L"v");
+    EXPECT_EQ(Read(path, L"ZZ@[", L"`azAZ{@["), L"v");
+    EXPECT_EQ(Read(path, L"ZZ@[", L"@AZaz[`{"), L"w");
+    EXPECT_EQ(Read(path, L"ZZ@[", L"`azAZ[@["), L"");
+    EXPECT_EQ(Read(path, L"ZZ@{", L"`azAZ{@["), L"");
+  }
+}
+
+TEST(Profile, KeysAreListedInTheirOrder) {
+  const TestFolder folder;
+  const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\nK=v\n;c\nL=\n[T]\nM=v\n")));
+  std::wstring names;
+  reader.ListKeys(L"s", [&](std::wstring_view name) { names.append(name).append(L"."); });
+  EXPECT_EQ(names, L"K.L.");
+}
+
 TEST(Profile, PathsThatAreNoFileReadAsEmptyAndRefuseWrites) {
   const TestFolder folder;
   for (const std::string& path : {folder.PathOf("no folder/a.ini"), folder.PathOf("")}) {
