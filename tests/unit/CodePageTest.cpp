@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "definition/PrinterConfig.h"
+#include "definition/TemporaryPath.h"
 #include "definition/TextConversion.h"
 #include "support/TestFiles.h"
 
@@ -31,6 +32,11 @@ TEST(CodePage932, TextsOfTwoBytesACharacterConvertBothWays) {
     EXPECT_TRUE(config.Parse(folder.Write("a.ini", test::Definition("ModelName=" + c.narrow))));
     EXPECT_EQ(config.ModelName, c.narrow);
   }
+}
+
+TEST(CodePage932, ASecondByteThatLooksLikeASeparatorCutsNoName) {
+  EXPECT_EQ(TemporaryName("Z:\\\x83\x5C.exe", "cfg/\x83\x5C\x83\x5C.dat"),
+            "\x83\x5C_\x83\x5C\x83\x5C.bin");
 }
 
 TEST(CodePage1252, NumbersHaveTheDecimalPointThatTheHostChose) {
