@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "TextForms.h"
+#include "files/TextForms.h"
 
 namespace tavrin::tool {
 

@@ -4,12 +4,12 @@
 
 #include <CLI/CLI.hpp>
 
-#include "CipherCommands.h"
 #include "Failure.h"
-#include "ShowCommand.h"
 #include "TavrinVersion.h"
-#include "TemplateCommand.h"
-#include "check/CheckCommand.h"
+#include "commands/CheckCommand.h"
+#include "commands/CipherCommands.h"
+#include "commands/ShowCommand.h"
+#include "commands/TemplateCommand.h"
 
 namespace {
 

@@ -53,7 +53,7 @@ if(NOT TOOL MATCHES "wine-run")
   check("nothing of the version" output MATCHES ":2: error: Version: nothing of so long a value ")
 endif()
 
-file(COPY ${PROJECT}/tools/template.ini DESTINATION ${WORK})
+file(COPY ${PROJECT}/tools/keys/template.ini DESTINATION ${WORK})
 succeed(check template.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
 check("template and examples are not clean" NOT output)
 

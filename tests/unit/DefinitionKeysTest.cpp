@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "check/KnownKeys.h"
 #include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
+#include "keys/KnownKeys.h"
 #include "support/TestFiles.h"
 
 namespace tavrin {
@@ -20,7 +20,7 @@ using Keys = std::set<std::string>;
 
 const std::string kProject = TAVRIN_TEST_DATA_DIR "/../../";
 const std::string kExample = kProject + "examples/full-colour.ini";
-const std::string kTemplate = kProject + "tools/template.ini";
+const std::string kTemplate = kProject + "tools/keys/template.ini";
 const std::string kDocument = kProject + "docs/definition-file.md";
 
 /// A key's name with N for its number, NNN for one of three digits.

@@ -4,12 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include "FactsJson.h"
-#include "PrinterFacts.h"
 #include "TavrinSession.h"
 #include "api/LibraryInstance.h"
-#include "check/KeyFacts.h"
 #include "check/Reading.h"
+#include "facts/FactsJson.h"
+#include "facts/PrinterFacts.h"
+#include "keys/KeyFacts.h"
 #include "support/TestFiles.h"
 
 namespace tavrin::tool {

@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "check/KeyFacts.h"
 #include "check/Rules.h"
+#include "keys/KeyFacts.h"
 #include "util/TextUtilities.h"
 
 namespace tavrin::tool {

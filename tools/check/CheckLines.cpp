@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <numeric>
 
-#include "check/KeyFacts.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
+#include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 

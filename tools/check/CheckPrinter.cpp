@@ -1,5 +1,5 @@
-#include "check/KeyFacts.h"
 #include "check/Rules.h"
+#include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 

@@ -6,11 +6,11 @@
 #include <limits>
 #include <string>
 
-#include "check/KeyFacts.h"
 #include "check/Rules.h"
 #include "definition/IntegerConversion.h"
 #include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
+#include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FileTransfer.h"
 #include "check/Reading.h"
+#include "files/FileTransfer.h"
 
 namespace tavrin::tool {
 

@@ -1,6 +1,6 @@
 #include "check/FindingsOutput.h"
 
-#include "TextForms.h"
+#include "files/TextForms.h"
 
 namespace tavrin::tool {
 

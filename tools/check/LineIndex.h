@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "FileTransfer.h"
+#include "files/FileTransfer.h"
 
 namespace tavrin::tool {
 

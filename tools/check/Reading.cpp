@@ -7,13 +7,13 @@
 #include <system_error>
 
 #include "Failure.h"
-#include "FilePath.h"
-#include "TemporaryFile.h"
-#include "check/KeyFacts.h"
 #include "definition/PrintModes.h"
 #include "definition/PrinterKeys.h"
 #include "definition/TemporaryPath.h"
 #include "definition/TextConversion.h"
+#include "files/FilePath.h"
+#include "files/TemporaryFile.h"
+#include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 

@@ -8,11 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "FileTransfer.h"
-#include "check/KnownKeys.h"
 #include "check/LineIndex.h"
 #include "check/WatchedIni.h"
 #include "definition/PrinterConfig.h"
+#include "files/FileTransfer.h"
+#include "keys/KnownKeys.h"
 
 namespace tavrin::tool {
 

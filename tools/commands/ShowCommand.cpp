@@ -1,13 +1,13 @@
-#include "ShowCommand.h"
+#include "commands/ShowCommand.h"
 
 #include <chrono>
 
-#include "FactsJson.h"
-#include "FactsText.h"
 #include "Failure.h"
-#include "FileTransfer.h"
-#include "LoadFailure.h"
 #include "TavrinSession.h"
+#include "commands/LoadFailure.h"
+#include "facts/FactsJson.h"
+#include "facts/FactsText.h"
+#include "files/FileTransfer.h"
 
 namespace tavrin::tool {
 

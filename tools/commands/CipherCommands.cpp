@@ -1,13 +1,13 @@
-#include "CipherCommands.h"
+#include "commands/CipherCommands.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
 
 #include "Failure.h"
-#include "FilePath.h"
-#include "FileTransfer.h"
 #include "definition/FileCipher.h"
+#include "files/FilePath.h"
+#include "files/FileTransfer.h"
 
 namespace tavrin::tool {
 

@@ -1,9 +1,9 @@
-#include "Report.h"
+#include "facts/Report.h"
 
 #include <algorithm>
 #include <iomanip>
 
-#include "TextForms.h"
+#include "files/TextForms.h"
 
 namespace tavrin::tool {
 

@@ -1,10 +1,10 @@
-#include "TemporaryFile.h"
+#include "files/TemporaryFile.h"
 
 #include <random>
 #include <string>
 
-#include "FilePath.h"
 #include "definition/FileBytes.h"
+#include "files/FilePath.h"
 
 namespace tavrin::tool {
 

@@ -1,4 +1,4 @@
-#include "check/CheckCommand.h"
+#include "commands/CheckCommand.h"
 
 #include <algorithm>
 #include <exception>
@@ -7,11 +7,11 @@
 #include <memory>
 
 #include "Failure.h"
-#include "FileTransfer.h"
-#include "StandardStreams.h"
 #include "check/DefinitionReading.h"
 #include "check/FindingsOutput.h"
 #include "check/Rules.h"
+#include "files/FileTransfer.h"
+#include "files/StandardStreams.h"
 
 namespace tavrin::tool {
 

@@ -1,8 +1,8 @@
-#include "FactsJson.h"
+#include "facts/FactsJson.h"
 
 #include <nlohmann/json.hpp>
 
-#include "TextForms.h"
+#include "files/TextForms.h"
 
 namespace tavrin::tool {
 

@@ -1,11 +1,11 @@
-#include "FactsText.h"
+#include "facts/FactsText.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <sstream>
 
-#include "Report.h"
+#include "facts/Report.h"
 
 namespace tavrin::tool {
 

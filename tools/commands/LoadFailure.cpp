@@ -1,14 +1,14 @@
-#include "LoadFailure.h"
+#include "commands/LoadFailure.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
 
-#include "FilePath.h"
-#include "FileTransfer.h"
 #include "check/Reading.h"
 #include "definition/FileCipher.h"
 #include "definition/TemporaryPath.h"
+#include "files/FilePath.h"
+#include "files/FileTransfer.h"
 
 namespace tavrin::tool {
 

@@ -1,4 +1,4 @@
-#include "PrinterFacts.h"
+#include "facts/PrinterFacts.h"
 
 #include <algorithm>
 #include <array>

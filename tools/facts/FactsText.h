@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "PrinterFacts.h"
+#include "facts/PrinterFacts.h"
 
 namespace tavrin::tool {
 

@@ -1,4 +1,4 @@
-#include "FileTransfer.h"
+#include "files/FileTransfer.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -8,9 +8,9 @@
 #include <system_error>
 
 #include "Failure.h"
-#include "FilePath.h"
-#include "StandardStreams.h"
-#include "TemporaryFile.h"
+#include "files/FilePath.h"
+#include "files/StandardStreams.h"
+#include "files/TemporaryFile.h"
 
 namespace tavrin::tool {
 

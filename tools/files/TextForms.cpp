@@ -1,4 +1,4 @@
-#include "TextForms.h"
+#include "files/TextForms.h"
 
 #include <algorithm>
 #include <cstdint>

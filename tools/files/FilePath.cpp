@@ -1,4 +1,4 @@
-#include "FilePath.h"
+#include "files/FilePath.h"
 
 #include <new>
 

@@ -1,4 +1,4 @@
-#include "check/KnownKeys.h"
+#include "keys/KnownKeys.h"
 
 #include <algorithm>
 

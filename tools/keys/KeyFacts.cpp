@@ -1,4 +1,4 @@
-#include "check/KeyFacts.h"
+#include "keys/KeyFacts.h"
 
 #include <algorithm>
 #include <cstdio>
