@@ -4,12 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "FactsJson.h"
-#include "PrinterFacts.h"
 #include "TavrinLib.h"
 #include "api/LibraryInstance.h"
 #include "check/KeyFacts.h"
 #include "check/Reading.h"
+#include "support/Answers.h"
 #include "support/TestFiles.h"
 
 namespace tavrin::tool {
@@ -21,12 +20,7 @@ void Install(std::unique_ptr<PrinterConfig> config) {
   libraryInstance = config.release();
 }
 
-/// What the command show prints of it.
-std::string Shown() {
-  return FactsAsJson(AskPrinterFacts());
-}
-
-TEST(WatchedReading, ShowsAsTheLoadedDefinitionDoes) {
+TEST(WatchedReading, AnswersAsTheLoadedDefinitionDoes) {
   const test::TestFolder folder;
   int definitions = 0;
   for (const auto& entry : std::filesystem::directory_iterator(TAVRIN_TEST_DATA_DIR "/check")) {
@@ -38,9 +32,9 @@ TEST(WatchedReading, ShowsAsTheLoadedDefinitionDoes) {
     const std::string definition = folder.WriteEnciphered("a.dat", content);
     ASSERT_EQ(TavrinInitialize(definition.c_str()), reading.loads);
     if (!reading.loads) continue;
-    const std::string loaded = Shown();
+    const std::string answers = test::AskEverything();
     Install(std::move(reading.config));
-    EXPECT_EQ(Shown(), loaded);
+    EXPECT_EQ(test::AskEverything(), answers);
   }
   TavrinFinalize();
   EXPECT_GT(definitions, 30);
