@@ -38,7 +38,7 @@ std::vector<const WatchedRead*> CodesOf(const Reading& reading, const Table& tab
 void CheckCount(const Check& check, const char* key) {
   const WatchedRead* count = check.reading.FindNumber(key);
   if (count == nullptr || count->number >= 1.0) return;
-  check.Warn(key, "a count below 1 counts as missing",
+  check.Warn("count-below-one", key, "a count below 1 counts as missing",
              FactsOf(key).Outcome(*check.reading.config, 0), "write 1 or more, or remove the line");
 }
 
@@ -50,7 +50,7 @@ void CheckMissingEntries(const Check& check, const Table& table) {
     if (code->found || check.reading.lines.Find(NameKeyOf(*code)) != nullptr) ++present;
   }
   if (count == nullptr || count->number < 1.0 || count->number <= present) return;
-  check.Warn(table.countKey, "fewer entries than it counts are there",
+  check.Warn("entries-missing", table.countKey, "fewer entries than it counts are there",
              "the printer gets " + std::to_string(table.entries.size()) + " of them",
              "write the missing entries or lower it");
 }
@@ -66,7 +66,7 @@ void CheckCodes(const Check& check, const Table& table) {
     const auto [same, isNewCode] = byCode.emplace(code->number, code->key);
     const auto [similar, isNew] = byLastDigits.emplace(digits, code->key);
     if (isNew) continue;
-    check.Warn(code->key,
+    check.Warn(isNewCode ? "same-digits" : "same-code", code->key,
                isNewCode ? "the code ends in the same three digits as " + similar->second
                          : "the code is that of " + same->second,
                isNewCode ? "inks that differ in it alone share one id and one category"
@@ -82,7 +82,8 @@ void CheckSlotCodes(const Check& check, const Table& table) {
     const WatchedRead* read = check.reading.FindNumber(table.slotKey + number);
     const auto code = static_cast<std::int32_t>(read->number);
     if (slot->IsValid() || table.entries.Find(code) != nullptr) continue;
-    check.Warn(read->key, Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
+    check.Warn("unknown-code", read->key,
+               Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
                "slot " + number + " holds no known ink", "name a code of the table");
   }
 }
@@ -93,7 +94,7 @@ void CheckBuiltInSlots(const Check& check) {
     if (!slot->IsValid()) invalid += ' ' + std::to_string(slot->GetSlotNumber());
   }
   if (invalid.empty()) return;
-  check.Warn(kSlotCount, "the tables lack codes that the built-in slots name",
+  check.Warn("slots-without-ink", kSlotCount, "the tables lack codes that the built-in slots name",
              "these slots hold no known ink:" + invalid, "write slots for the tables");
 }
 
@@ -113,7 +114,7 @@ void CheckCategories(const Check& check) {
     empty += (empty.empty() ? "" : " and ") + std::to_string(i) + ' ' + Quoted(categories[i]->name);
   }
   if (empty.empty()) return;
-  check.Add(Severity::Error, kSlotCount, "no slot is in ink category " + empty,
+  check.Add("empty-category", Severity::Error, kSlotCount, "no slot is in ink category " + empty,
             "the query for its slots fails", "give a slot an ink of that category");
 }
 

@@ -82,15 +82,16 @@ LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
   const std::string text = TextOf(plain, format);
   std::string_view rest = text;
   for (std::size_t number = 1; !rest.empty(); ++number)
-    AddLine(number, Trim(TakeLine(&rest)));
+    AddLine(number, TakeLine(&rest));
 }
 
-void LineIndex::AddLine(std::size_t number, std::string_view line) {
+void LineIndex::AddLine(std::size_t number, std::string_view text) {
+  const std::string_view line = Trim(text);
   if (line.empty() || line.front() == ';') return;
   if (line.front() == '[') {
     AddHeader(number, line);
   } else {
-    AddKey(number, line);
+    AddKey(number, text);
   }
 }
 
@@ -109,14 +110,15 @@ void LineIndex::AddHeader(std::size_t number, std::string_view line) {
   if (!behind.empty() && behind.front() != ';') crowdedHeaders_.push_back(number);
 }
 
-void LineIndex::AddKey(std::size_t number, std::string_view line) {
+void LineIndex::AddKey(std::size_t number, std::string_view text) {
+  const std::string_view line = Trim(text);
   const std::size_t equals = std::min(line.find('='), line.size());
   const bool hasEquals = equals < line.size();
   const std::string name = Spelled(line.substr(0, equals));
   if (place_ == KeyLine::Place::Section) counting_.emplace(Folded(name), keys_.size());
   keys_.push_back({number, place_, hasEquals, name,
                    hasEquals ? Unquoted(Spelled(line.substr(equals + 1))) : std::string(),
-                   line.find('\0') != std::string_view::npos});
+                   line.find('\0') != std::string_view::npos, std::string(text)});
 }
 
 const KeyLine* LineIndex::Find(std::string_view key) const {

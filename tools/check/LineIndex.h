@@ -23,6 +23,7 @@ struct KeyLine {
   std::string name = {};
   std::string value = {};  ///< without the quotes round it
   bool hasNul = false;     ///< name and value end where one is
+  std::string text = {};   ///< the line as it stands, without its end
 
   /// Whether the name is surely the same for the library: ASCII throughout, without a '?'.
   bool HasPlainName() const;
@@ -71,9 +72,9 @@ class LineIndex {
   bool IsUtf16() const { return format_.unitLength == 2; }
 
  private:
-  void AddLine(std::size_t number, std::string_view line);
+  void AddLine(std::size_t number, std::string_view text);
   void AddHeader(std::size_t number, std::string_view line);
-  void AddKey(std::size_t number, std::string_view line);
+  void AddKey(std::size_t number, std::string_view text);
 
   TextFormat format_;
   bool isKnown_;

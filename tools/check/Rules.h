@@ -10,13 +10,15 @@ namespace tavrin::tool {
 /// What the rules look at, and where their findings go.
 struct Check {
   /// Adds a finding on a line, or on the line of the key.
-  void Add(std::size_t line, Severity severity, const std::string& key, const std::string& what,
-           const std::string& effect, const std::string& remedy) const;
-  void Add(Severity severity, const std::string& key, const std::string& what,
-           const std::string& effect, const std::string& remedy) const;
+  ///
+  /// @return the finding, for what only some have; good until the next one is added.
+  Finding& Add(const char* rule, std::size_t line, Severity severity, const std::string& key,
+               const std::string& what, const std::string& effect, const std::string& remedy) const;
+  Finding& Add(const char* rule, Severity severity, const std::string& key, const std::string& what,
+               const std::string& effect, const std::string& remedy) const;
   /// The same for warnings on the line of the key.
-  void Warn(const std::string& key, const std::string& what, const std::string& effect,
-            const std::string& remedy) const;
+  Finding& Warn(const char* rule, const std::string& key, const std::string& what,
+                const std::string& effect, const std::string& remedy) const;
 
   const Reading& reading;
   Findings* findings;
