@@ -1,6 +1,5 @@
 #include <functional>
 #include <memory>
-#include <vector>
 
 #include "InkSlot.h"
 #include "export/ExportTest.h"
@@ -9,16 +8,6 @@ namespace tavrin::test {
 namespace {
 
 class InkQueries : public ExportTest {};
-
-using Numbers = std::vector<std::int32_t>;
-
-Numbers SlotsOfCategory(std::int32_t index) {
-  std::int32_t* numbers = nullptr;
-  std::int32_t count = -1;
-  if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
-  const std::unique_ptr<std::int32_t[]> owned(numbers);
-  return Numbers(numbers, numbers + count);
-}
 
 /// What a text operation of a slot hands out; the array must be as long as it says.
 std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
@@ -51,19 +40,6 @@ TEST_F(InkQueries, WithoutADefinitionEachFails) {
   EXPECT_EQ(count, 7u);
   EXPECT_EQ(signedCount, 7);
   EXPECT_EQ(numbers, &signedCount);
-}
-
-TEST_F(InkQueries, TheBuiltInSlotsMakeSixCategories) {
-  ASSERT_TRUE(InitializeDefinition(""));
-  std::uint32_t count = 0;
-  EXPECT_TRUE(TavrinGetItemCountOfInkSlot(&count));
-  EXPECT_EQ(count, 8u);
-  EXPECT_TRUE(TavrinGetItemCountOfInkCategory(&count));
-  EXPECT_EQ(count, 6u);
-  const Numbers expected[] = {
-      {1, 2}, {3}, {4}, {5, 6, 7, 8}, {3, 4, 5, 6, 7, 8}, {1, 2, 3, 4, 5, 6, 7, 8}};
-  for (std::int32_t i = 0; i < 6; ++i)
-    EXPECT_EQ(SlotsOfCategory(i), expected[i]) << i;
 }
 
 TEST_F(InkQueries, ACategoryThatCannotListItsSlotsIsAFailure) {

@@ -1,7 +1,11 @@
 #include <functional>
 #include <limits>
 
+#include <gmock/gmock.h>
+
 #include "export/ExportTest.h"
+#include "support/Answers.h"
+#include "unit/TestText.h"
 
 namespace tavrin::test {
 namespace {
@@ -40,15 +44,6 @@ const ScalarQuery kScalarQueries[] = {
     Scalar("nozzle check", TavrinGetCheckNozzleWhilePrinting),
 };
 
-void ExpectScalars(const std::vector<double>& expected) {
-  ASSERT_EQ(expected.size(), std::size(kScalarQueries));
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    double answer = -1.0;
-    EXPECT_TRUE(kScalarQueries[i].ask(&answer)) << kScalarQueries[i].name;
-    EXPECT_EQ(answer, expected[i]) << kScalarQueries[i].name;
-  }
-}
-
 TEST_F(PrinterQueries, WithoutADefinitionEachFailsAndWritesNothing) {
   const auto expectFailure = [](const char* name, bool succeeded) {
     EXPECT_FALSE(succeeded) << name;
@@ -81,86 +76,31 @@ TEST_F(PrinterQueries, WithoutADefinitionEachFailsAndWritesNothing) {
   EXPECT_EQ(count, 0u) << "the one output that is written without a definition";
 }
 
-TEST_F(PrinterQueries, ScalarsAnswerTheirKeys) {
-  ASSERT_TRUE(InitializeDefinition(""));
-  ExpectScalars({5, 0, 100, 3000, 1, 0, 0, 53.7, 2, 0, 0, 1, 0});
-  ASSERT_TRUE(InitializeDefinition(
-      "PrintMargin=6\nSupportThickness=0.2\nDetachLayerSize=1\nAntiAliasing=0\nReverse=1\n"
-      "White_White=0\nHeadBandSize=40.5\nDefaultMode=9\nCuttingMarginSetting=3\n"
-      "SupportSizeSetting=-2\nAutoCleaningEnabled=0\nNCUEnabled=1\n"));
-  ExpectScalars({6000, 0, 200, 1000, 0, 1, 1, 40.5, 9, 3, 4294967294.0, 0, 1});
-}
-
-TEST_F(PrinterQueries, AreaIsTruncatedIn64BitsModulo32) {
-  const struct {
-    const char* size;
-    std::uint32_t x, y, z;
-  } cases[] = {
-      {"508,508,508", 508000, 508000, 508000},
-      {"0.0019,-1,1.005", 1, 4294966296u, 1004},
-      {"4294967.297,1e300,nan", 1, 0, 0},
-  };
-  for (const auto& c : cases) {
-    ASSERT_TRUE(InitializeDefinition(std::string("PrinterSize=") + c.size));
-    std::uint32_t x = 7, y = 7, z = 7;
-    EXPECT_TRUE(TavrinGetAreaSize(&x, &y, &z));
-    EXPECT_EQ(x, c.x) << c.size;
-    EXPECT_EQ(y, c.y) << c.size;
-    EXPECT_EQ(z, c.z) << c.size;
+TEST_F(PrinterQueries, AnswerAsTheTableOfDefinitionsSays) {
+  int cases = 0;
+  for (const auto& row : Rows(ReadWhole(TAVRIN_TEST_DATA_DIR "/definition-cases.tsv"))) {
+    SCOPED_TRACE(row[0]);
+    ++cases;
+    ASSERT_TRUE(InitializeDefinition(Unescape(row[0])));
+    const std::string answers = "\n" + AskEverything();
+    for (std::size_t i = 1; i < row.size(); ++i)
+      EXPECT_THAT(answers, testing::HasSubstr("\n" + row[i] + "\n"));
   }
+  EXPECT_EQ(cases, 79);
 }
 
-TEST_F(PrinterQueries, ModesAnswerByIndex) {
-  ASSERT_TRUE(InitializeDefinition(
-      "PrinterSize=100,100,10.05\nMode=5,2\nLimitationMode=2\n"
-      "Mode5SliceSize=0.032\nMode5ColorThickness=0.5\nMode5=600,2\n"
-      "Mode2SliceSize=0.0004\nMode2ColorThickness=0.5\nMode2=1200,4\nMode2LimitedContinuous=3\n"));
-  std::uint32_t count = 0;
-  EXPECT_TRUE(TavrinGetModeCount(&count));
-  EXPECT_EQ(count, 2u);
-
-  std::int32_t mode[6] = {};
-  EXPECT_TRUE(TavrinGetModeConfig(0, mode));
-  EXPECT_EQ(std::vector<std::int32_t>(mode, mode + 6),
-            (std::vector<std::int32_t>{5, 32, 2, 600, 314, -1}));
-  EXPECT_TRUE(TavrinGetModeConfig(1, mode));
-  EXPECT_EQ(std::vector<std::int32_t>(mode, mode + 6),
-            (std::vector<std::int32_t>{2, 0, 4, 1200, std::numeric_limits<std::int32_t>::min(), 3}))
-      << "no slice height, no finite number of layers";
-
-  bool limited = true;
-  EXPECT_TRUE(TavrinGetWarpWarning(0, &limited));
-  EXPECT_FALSE(limited);
-  EXPECT_TRUE(TavrinGetWarpWarning(1, &limited));
-  EXPECT_TRUE(limited);
-
+TEST_F(PrinterQueries, AMissingModeRecordsNothing) {
+  ASSERT_TRUE(
+      InitializeDefinition("Mode=5\nMode5=600,2\nMode5SliceSize=0.032\nMode5ColorThickness=0.5\n"));
   SetLastErrorAside();
-  for (const std::int32_t index : {-1, 2, std::numeric_limits<std::int32_t>::min(),
+  for (const std::int32_t index : {-1, 1, std::numeric_limits<std::int32_t>::min(),
                                    std::numeric_limits<std::int32_t>::max()}) {
+    std::int32_t mode[6] = {};
+    bool limited = false;
     EXPECT_FALSE(TavrinGetModeConfig(index, mode)) << index;
     EXPECT_FALSE(TavrinGetWarpWarning(index, &limited)) << index;
   }
-  EXPECT_EQ(LastError(), ErrorInvalidArgument) << "a missing mode records nothing";
-}
-
-TEST_F(PrinterQueries, LayersCountInTheHeightAs32Bits) {
-  const struct {
-    const char* height;
-    const char* slice;
-    std::int32_t layers;
-  } cases[] = {
-      {"0.99", "0.1", 9},         {"1", "-0.3", -3},
-      {"3000000", "1", -2147483},  // the height is beyond 32 bits
-      {"nan", "2147483", -1},     {"0", "0", std::numeric_limits<std::int32_t>::min()},
-  };
-  for (const auto& c : cases) {
-    ASSERT_TRUE(InitializeDefinition(
-        std::string("PrinterSize=1,1,") + c.height +
-        "\nMode=1\nMode1=1,1\nMode1ColorThickness=1\nMode1SliceSize=" + c.slice + "\n"));
-    std::int32_t mode[6] = {};
-    ASSERT_TRUE(TavrinGetModeConfig(0, mode));
-    EXPECT_EQ(mode[4], c.layers) << c.height << '/' << c.slice;
-  }
+  EXPECT_EQ(LastError(), ErrorInvalidArgument);
 }
 
 TEST_F(PrinterQueries, InfoHoldsThreeFieldsOf128Bytes) {
@@ -200,13 +140,6 @@ TEST_F(PrinterQueries, InfoRefusesLongTextsAndKeepsTheFieldsBefore) {
   SetLastErrorAside();
   EXPECT_FALSE(TavrinGetInfo(nullptr));
   EXPECT_EQ(LastError(), ErrorFailed);
-}
-
-TEST_F(PrinterQueries, SideSupportGoesOutModulo32) {
-  std::uint32_t thickness = 7;
-  ASSERT_TRUE(InitializeDefinition("SupportExtend=-1\nSupportExtendAngle=0\n"));
-  EXPECT_TRUE(TavrinGetSideSupportThickness(1, &thickness));
-  EXPECT_EQ(thickness, 4294966296u);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "support/Answers.h"
 
+#include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <memory>
 
@@ -51,9 +53,8 @@ class Answers {
  private:
   static std::string Spelled(const std::string& text) { return text; }
   static std::string Spelled(double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    return std::to_string(bits);
+    char text[64];
+    return {text, std::to_chars(text, std::end(text), value).ptr};
   }
   template <typename Integer>
   static std::string Spelled(Integer value) {
