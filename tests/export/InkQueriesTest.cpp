@@ -1,4 +1,3 @@
-#include <functional>
 #include <memory>
 
 #include "InkSlot.h"
@@ -18,41 +17,6 @@ std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_
   const std::unique_ptr<char[]> owned(text);
   EXPECT_EQ(text[size - 1], '\0');
   return std::string(text, static_cast<std::size_t>(size - 1));
-}
-
-TEST_F(InkQueries, WithoutADefinitionEachFails) {
-  std::uint32_t count = 7;
-  std::int32_t signedCount = 7;
-  std::int32_t* numbers = &signedCount;
-  InkSlot* slot = nullptr;
-  const std::function<bool()> queries[] = {
-      [&] { return TavrinGetItemCountOfInkCategory(&count); },
-      [&] { return TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &signedCount); },
-      [&] { return TavrinGetItemCountOfInkSlot(&count); },
-      [&] { return TavrinGetInkSlot(1, &slot); },
-      [&] { return TavrinGetInkSlot(1, nullptr); },
-  };
-  for (const auto& query : queries) {
-    SetLastErrorAside();
-    EXPECT_FALSE(query());
-    EXPECT_EQ(LastError(), ErrorNotInitialized);
-  }
-  EXPECT_EQ(count, 7u);
-  EXPECT_EQ(signedCount, 7);
-  EXPECT_EQ(numbers, &signedCount);
-}
-
-TEST_F(InkQueries, ACategoryThatCannotListItsSlotsIsAFailure) {
-  // Without a white ink the third built-in category is empty.
-  ASSERT_TRUE(InitializeDefinition("NumOfColor=1\nColor001Code=1\nColor001Name=Cyan\n"));
-  for (const std::int32_t index : {-2147483647 - 1, -1, 2, 6, 2147483647}) {
-    SetLastErrorAside();
-    std::int32_t* numbers = nullptr;
-    std::int32_t count = 7;
-    EXPECT_FALSE(TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) << index;
-    EXPECT_EQ(LastError(), ErrorFailed) << index;
-    EXPECT_EQ(count, 7) << index;
-  }
 }
 
 TEST_F(InkQueries, ASlotAnswersThroughItsVirtualTable) {
@@ -82,21 +46,6 @@ TEST_F(InkQueries, ASlotAnswersThroughItsVirtualTable) {
     EXPECT_FALSE(slot->GetInkName(nullptr, &size));
     EXPECT_EQ(size, 7);
   }
-}
-
-TEST_F(InkQueries, AnUnknownSlotNumberGivesNullAndRecordsNothing) {
-  ASSERT_TRUE(InitializeDefinition(""));
-  SetLastErrorAside();
-  InkSlot* first = nullptr;
-  ASSERT_TRUE(TavrinGetInkSlot(1, &first));
-  for (const std::uint32_t number : {0u, 9u, 4294967295u}) {
-    InkSlot* slot = first;
-    EXPECT_FALSE(TavrinGetInkSlot(number, &slot)) << number;
-    EXPECT_EQ(slot, nullptr) << number;
-  }
-  EXPECT_EQ(LastError(), ErrorInvalidArgument);
-  EXPECT_FALSE(TavrinGetInkSlot(1, nullptr));
-  EXPECT_EQ(LastError(), ErrorNotInitialized);
 }
 
 }  // namespace
