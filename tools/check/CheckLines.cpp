@@ -1,6 +1,4 @@
-#include <algorithm>
-#include <numeric>
-
+#include "Spelling.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
@@ -10,21 +8,6 @@ namespace tavrin::tool {
 namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
-
-/// How many letters have to be put in, taken out or replaced to make one text of the other.
-std::size_t SpellingDistance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : a) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (c == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
 
 /// The known key whose spelling is nearest, with the number that name has or else 1;
 /// empty when none is near.
@@ -97,33 +80,14 @@ const KeyLine* EarlierLine(const LineIndex& lines, const KeyLine& line) {
 }
 
 void CheckLine(const Check& check, const KeyLine& line) {
-  if (!check.reading.Confirms(line)) return;
-  const auto warn = [&](const char* rule, const std::string& what, const std::string& remedy) {
-    check.Add(rule, line.number, Severity::Warning, line.name, what, kNoEffect, remedy);
-  };
-  const std::string header = std::to_string(check.reading.lines.HeaderLine());
-  if (line.place == KeyLine::Place::Outside) {
-    warn("outside-section", "this key is outside section [printer]", "move it into that section");
-  } else if (line.place == KeyLine::Place::LaterSection) {
-    warn("later-section", "only the first section [printer] is read",
-         "move it to the section in line " + header);
-  } else if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
-    warn("key-twice", "only the first line of a key counts",
-         "remove it or line " + std::to_string(earlier->number));
+  if (line.place != KeyLine::Place::Section || !check.reading.Confirms(line)) return;
+  if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
+    check.Add("key-twice", line.number, Severity::Warning, line.name,
+              "only the first line of a key counts", kNoEffect,
+              "remove it or line " + std::to_string(earlier->number));
   } else if (check.reading.Find(line.name) == nullptr) {
     CheckUnreadKey(check, line);
   }
-}
-
-void CheckVersion(const Check& check) {
-  const LineIndex& lines = check.reading.lines;
-  const KeyLine* version = lines.Find("Version");
-  check.Add(lines.HeaderLine() == 0 ? "no-section" : "no-version", Severity::Error, "Version",
-            lines.HeaderLine() == 0  ? "there is no section [printer]"
-            : version == nullptr     ? "this key is missing"
-            : version->value.empty() ? "this key has no value"
-                                     : "nothing of so long a value is read",
-            "the definition does not load", "write Version=... in section [printer]");
 }
 
 }  // namespace
@@ -143,11 +107,6 @@ bool CheckMark(const Check& check) {
 }
 
 void CheckLines(const Check& check) {
-  if (!check.reading.loads) CheckVersion(check);
-  for (const std::size_t header : check.reading.lines.CrowdedHeaders()) {
-    check.Add("text-behind-header", header, Severity::Warning, "[printer]",
-              "text follows ] in its line", "it has no effect", "move it to a line of its own");
-  }
   for (const KeyLine& line : check.reading.lines.Keys())
     CheckLine(check, line);
 }
