@@ -86,9 +86,8 @@ void CheckDamage(const Check& check, std::size_t line) {
 
 /// Whether the end of the file shows that it was cut off.
 bool IsOfCut(const Finding& finding, std::size_t last) {
-  return finding.line == last &&
-         (finding.rule == "unknown-key" || finding.rule == "no-value" ||
-          finding.rule == "no-equals-sign" || finding.rule == "fields-missing");
+  return finding.line == last && (finding.rule == "no-equals-sign" || finding.rule == "no-value" ||
+                                  finding.rule == "fields-missing");
 }
 
 void CheckEnd(const Check& check) {
@@ -118,6 +117,11 @@ bool IsOfSections(const Finding& finding) {
          finding.rule == "hidden-section";
 }
 
+/// Whether the library sees no section for want of a ].
+bool HidesAll(const Finding& finding) {
+  return finding.rule == "open-header" && finding.severity == Severity::Error;
+}
+
 /// Whether a key that could be read stands where none is.
 bool HasLostKeys(const Reading& reading) {
   const auto& keys = reading.lines.Keys();
@@ -131,6 +135,8 @@ bool HasLostKeys(const Reading& reading) {
 /// What is missed for a header's sake is the header's fault.
 void CheckLostKeys(const Check& check) {
   Findings& findings = *check.findings;
+  if (std::any_of(findings.begin(), findings.end(), HidesAll))
+    TakeOut(&findings, [](const Finding& finding) { return !HidesAll(finding); });
   if (std::none_of(findings.begin(), findings.end(), IsOfSections) || !HasLostKeys(check.reading))
     return;
   const Severity worst = TakeOut(&findings, [](const Finding& finding) {

@@ -244,8 +244,8 @@ bool CheckHeaderLine(const Check& check, const Section& section) {
   const bool loads = check.reading.loads;
   if (!header.hasEnd) {
     Finding& finding =
-        check.Add("open-header", header.number, loads ? Severity::Warning : Severity::Error, line,
-                  "the header has no ] at its end",
+        check.Add("open-header", header.number, loads ? Severity::Warning : Severity::Error,
+                  std::string(Trim(line)), "the header has no ] at its end",
                   loads ? "not every system sees the section" : kDoesNotLoad,
                   std::string("write ") + kHeader);
     finding.certainty = Certainty::Certain;
