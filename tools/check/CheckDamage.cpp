@@ -60,13 +60,22 @@ std::size_t FindDamage(const LineIndex& index) {
   return static_cast<std::size_t>(first - lines.begin()) + 1;
 }
 
+/// Takes findings out.
+///
+/// @return the worst severity among them, or else the least one.
+template <typename Predicate>
+Severity TakeOut(Findings* findings, Predicate isOut) {
+  Severity worst = Severity::Note;
+  for (const Finding& finding : *findings) {
+    if (isOut(finding)) worst = std::max(worst, finding.severity);
+  }
+  findings->erase(std::remove_if(findings->begin(), findings->end(), isOut), findings->end());
+  return worst;
+}
+
 void CheckDamage(const Check& check, std::size_t line) {
-  Findings& findings = *check.findings;
-  findings.erase(std::remove_if(findings.begin(), findings.end(),
-                                [&](const Finding& finding) {
-                                  return finding.line >= line || !IsOfOneLine(finding);
-                                }),
-                 findings.end());
+  TakeOut(check.findings,
+          [&](const Finding& finding) { return finding.line >= line || !IsOfOneLine(finding); });
   check.Add("damaged", line, Severity::Error, kFile,
             "no text from line " + std::to_string(line) +
                 " on: damaged, or line ends changed in transfer",
@@ -75,21 +84,67 @@ void CheckDamage(const Check& check, std::size_t line) {
             "transfer it anew, as a binary file");
 }
 
+/// Whether the end of the file shows that it was cut off.
+bool IsOfCut(const Finding& finding, std::size_t last) {
+  return finding.line == last && (finding.rule == "no-equals-sign" || finding.rule == "no-value" ||
+                                  finding.rule == "fields-missing");
+}
+
 void CheckEnd(const Check& check) {
   const LineIndex& lines = check.reading.lines;
   if (lines.IsEnded()) return;
-  const std::size_t last = lines.Lines().size();
   Findings& findings = *check.findings;
-  const auto isOfCut = [&](const Finding& finding) {
-    return finding.line == last &&
-           (finding.rule == "unknown-key" || finding.rule == "no-equals-sign");
-  };
-  findings.erase(std::remove_if(findings.begin(), findings.end(), isOfCut), findings.end());
+  const std::size_t last = std::max<std::size_t>(lines.Lines().size(), 1);
+  const bool isCut = std::any_of(findings.begin(), findings.end(),
+                                 [&](const Finding& finding) { return IsOfCut(finding, last); });
+  Severity severity = Severity::Warning;
+  if (isCut) {
+    severity = std::max(severity, TakeOut(&findings, [&](const Finding& finding) {
+                          return IsOfCut(finding, last) || !IsOfOneLine(finding);
+                        }));
+  }
   check
-      .Add("no-line-end", std::max<std::size_t>(last, 1), Severity::Warning, kFile,
-           "the last line has no end, so the file was perhaps cut off",
-           "what followed would be missing", "see whether it is whole, and end the line")
+      .Add("no-line-end", last, severity, kFile,
+           isCut ? "it ends within a line, so it was cut off"
+                 : "the last line has no end, so it was perhaps cut off",
+           isCut ? "what followed is missing" : "what followed would be missing",
+           isCut ? "get the whole file" : "see whether it is whole, and end the line")
       .certainty = Certainty::Likely;
+}
+
+bool IsOfSections(const Finding& finding) {
+  return finding.rule == "outside-section" || finding.rule == "later-section" ||
+         finding.rule == "hidden-section";
+}
+
+/// Whether the library sees no section for want of a ].
+bool HidesAll(const Finding& finding) {
+  return finding.rule == "open-header" && finding.severity == Severity::Error;
+}
+
+/// Whether a key that could be read stands where none is.
+bool HasLostKeys(const Reading& reading) {
+  const auto& keys = reading.lines.Keys();
+  return std::any_of(keys.begin(), keys.end(), [&](const KeyLine& key) {
+    std::int32_t number = 0;
+    return key.place != KeyLine::Place::Section && reading.lines.Find(key.name) == nullptr &&
+           reading.KnownKeyOf(key.name, &number) != nullptr && reading.Confirms(key);
+  });
+}
+
+/// What is missed for a header's sake is the header's fault.
+void CheckLostKeys(const Check& check) {
+  Findings& findings = *check.findings;
+  if (std::any_of(findings.begin(), findings.end(), HidesAll))
+    TakeOut(&findings, [](const Finding& finding) { return !HidesAll(finding); });
+  if (std::none_of(findings.begin(), findings.end(), IsOfSections) || !HasLostKeys(check.reading))
+    return;
+  const Severity worst = TakeOut(&findings, [](const Finding& finding) {
+    return !IsOfSections(finding) && !IsOfOneLine(finding) && finding.rule != "no-section" &&
+           finding.rule != "no-version" && finding.rule != "open-header";
+  });
+  Finding& cause = *std::find_if(findings.begin(), findings.end(), IsOfSections);
+  cause.severity = std::max(cause.severity, worst);
 }
 
 }  // namespace
@@ -97,9 +152,10 @@ void CheckEnd(const Check& check) {
 void CheckWhole(const Check& check) {
   if (const std::size_t line = FindDamage(check.reading.lines)) {
     CheckDamage(check, line);
-  } else {
-    CheckEnd(check);
+    return;
   }
+  CheckLostKeys(check);
+  CheckEnd(check);
 }
 
 }  // namespace tavrin::tool

@@ -244,8 +244,8 @@ bool CheckHeaderLine(const Check& check, const Section& section) {
   const bool loads = check.reading.loads;
   if (!header.hasEnd) {
     Finding& finding =
-        check.Add("open-header", header.number, loads ? Severity::Warning : Severity::Error, line,
-                  "the header has no ] at its end",
+        check.Add("open-header", header.number, loads ? Severity::Warning : Severity::Error,
+                  std::string(Trim(line)), "the header has no ] at its end",
                   loads ? "not every system sees the section" : kDoesNotLoad,
                   std::string("write ") + kHeader);
     finding.certainty = Certainty::Certain;
@@ -253,8 +253,10 @@ bool CheckHeaderLine(const Check& check, const Section& section) {
     return section.hasVersion;
   }
   if (behind.empty() || behind.front() == ';') return false;
-  const bool isKey = behind.find('=') != behind.npos;
-  const bool isVersion = isKey && Folded(Trim(behind.substr(0, behind.find('=')))) == "version";
+  const std::string name =
+      behind.find('=') == behind.npos ? "" : Folded(Trim(behind.substr(0, behind.find('='))));
+  const bool isKey = !name.empty();
+  const bool isVersion = name == "version";
   const bool isCause = isVersion && !loads;
   Finding& finding =
       check.Add("text-behind-header", header.number, isCause ? Severity::Error : Severity::Warning,
