@@ -166,8 +166,8 @@ void AddKeys(CLI::App* app, int* status) {
       "# in a key's name stands for a number. Values out of range are taken as they are, or as\n"
       "is said; tavrin check warns of them, and of those that no printer can use.\n"
       "Exit status: 0; 4 when there is no such key\n\n"
-      "Example: tavrin keys\n"
-      "         tavrin keys Mode1SliceSize");
+      "Example: tavrin keys Mode1SliceSize\n"
+      "         tavrin keys --format=json");
   command->callback([options, status] { *status = PrintKeys(*options); });
 }
 
