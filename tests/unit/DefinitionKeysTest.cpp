@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "TavrinLib.h"
+#include "check/Reading.h"
 #include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
@@ -86,6 +87,25 @@ std::string RowOf(const tool::KeyFacts& facts) {
   const std::string without = std::regex_replace(text.without, std::regex("#"), "N");
   return "| `" + Folded(key.WithNumber(1)) + "` | " + text.values + usual + " | " + without +
          " | " + facts.meaning + " | `" + key.WithNumber(1) + '=' + facts.example + "` |\n";
+}
+
+TEST(DefinitionKeys, FormsAreWhatTheReaderAsksFor) {
+  using Form = tool::KeyFacts::Form;
+  using Kind = tool::WatchedRead::Kind;
+  const std::string example = ReadWhole(kExample);
+  const tool::Reading reading({example.begin(), example.end()});
+  for (const tool::WatchedRead& read : reading.reads) {
+    std::int32_t number = 0;
+    const Form form = tool::FactsOf(reading.KnownKeyOf(read.key, &number)->Shape()).form;
+    const bool isInteger = form == Form::Integer || form == Form::Switch;
+    const bool isNumber = form == Form::Length || form == Form::Number;
+    // What is read as a text may be taken for a number afterwards.
+    if (read.kind == Kind::Text) {
+      EXPECT_TRUE(form != Form::Length && form != Form::Switch) << read.key;
+    } else {
+      EXPECT_TRUE(read.kind == Kind::Integer ? isInteger : isNumber) << read.key;
+    }
+  }
 }
 
 TEST(DefinitionKeys, DocumentHasTheTable) {

@@ -4,6 +4,7 @@
 #include <iomanip>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -25,7 +26,7 @@ namespace {
 constexpr int kUsageError = 4;
 
 struct KeysOptions {
-  std::string key;
+  std::optional<std::string> key;
   std::string format = "text";
 };
 
@@ -100,12 +101,18 @@ nlohmann::ordered_json AsJson(const KeyFacts& facts) {
           {"example", ExampleOf(facts)}};
 }
 
-/// The key that a name or a shape spells; null when there is none.
-const KeyFacts* FindKey(const std::string& name) {
+/// Whether the name spells the key, with a number or with what stands for one.
+bool IsSpelledBy(const KnownKey& key, const std::string& name) {
   std::int32_t number = 0;
+  if (key.Matches(name, &number)) return true;
+  const std::string letters = key.prefix + std::string(static_cast<std::size_t>(key.digits), 'N');
+  return Folded(key.Shape()) == Folded(name) || Folded(letters + key.suffix) == Folded(name);
+}
+
+/// Null when there is no key of the name.
+const KeyFacts* FindKey(const std::string& name) {
   for (const KnownKey& key : ListKnownKeys()) {
-    if (Folded(key.Shape()) == Folded(name) || key.Matches(name, &number))
-      return &FactsOf(key.Shape());
+    if (IsSpelledBy(key, name)) return &FactsOf(key.Shape());
   }
   return nullptr;
 }
@@ -123,14 +130,14 @@ std::string NearestShape(const std::string& name) {
 
 int PrintKeys(const KeysOptions& options) {
   std::vector<const KeyFacts*> keys;
-  if (options.key.empty()) {
+  if (!options.key) {
     for (const KeyFacts& facts : ListKeyFacts())
       keys.push_back(&facts);
-  } else if (const KeyFacts* facts = FindKey(options.key)) {
+  } else if (const KeyFacts* facts = FindKey(*options.key)) {
     keys.push_back(facts);
   } else {
-    std::cerr << "tavrin: " << Printable(Shortened(options.key)) << ": no key has this name ("
-              << "the nearest is " << NearestShape(options.key) << ")\n";
+    std::cerr << "tavrin: " << Printable(Quoted(*options.key)) << ": no key has this name, the "
+              << "nearest is " << NearestShape(*options.key) << " (tavrin keys prints them all)\n";
     return kUsageError;
   }
   if (options.format == "json") {
@@ -139,7 +146,7 @@ int PrintKeys(const KeysOptions& options) {
       objects.push_back(AsJson(*facts));
     PrintText(nlohmann::ordered_json{{"schema", 1}, {"keys", objects}}.dump(2) + '\n');
   } else {
-    PrintText(options.key.empty() ? Overview(keys) : Description(*keys.front()));
+    PrintText(!options.key ? Overview(keys) : Description(*keys.front()));
   }
   return 0;
 }
@@ -159,8 +166,8 @@ void AddKeys(CLI::App* app, int* status) {
       "# in a key's name stands for a number. Values out of range are taken as they are, or as\n"
       "is said; tavrin check warns of them, and of those that no printer can use.\n"
       "Exit status: 0; 4 when there is no such key\n\n"
-      "Example: tavrin keys\n"
-      "         tavrin keys Mode1SliceSize");
+      "Example: tavrin keys Mode1SliceSize\n"
+      "         tavrin keys --format=json");
   command->callback([options, status] { *status = PrintKeys(*options); });
 }
 
