@@ -103,7 +103,8 @@ struct PrintMode {
   std::int32_t firstValue = 0;   ///< first value of the mode's pair
   std::int32_t secondValue = 0;  ///< second value of the mode's pair
   bool limited = false;          ///< whether the host warns of warping before the mode runs
-  /// How many slices fit the build volume; none where the definition gives no number to divide by.
+  /// How many slices fit the build volume; none where the definition gives no number to divide by,
+  /// and from 2 km of slices of 1 µm on.
   std::optional<std::int32_t> sliceCount;
   /// How long the mode may run on as a limited one; none where the definition gives no limit.
   std::optional<std::int32_t> limitedContinuous;

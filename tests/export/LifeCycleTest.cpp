@@ -5,17 +5,6 @@ namespace {
 
 class LifeCycle : public ExportTest {};
 
-// Runs first: the code is 0 only until something fails.
-TEST(BeforeAnyFailure, TheLastErrorIsZero) {
-  EXPECT_EQ(LastError(), ErrorNone);
-  EXPECT_TRUE(TavrinFinalize());
-  const TestFolder folder;
-  EXPECT_TRUE(TavrinInitialize(folder.WriteEnciphered("printer.dat", Definition("")).c_str()));
-  EXPECT_TRUE(TavrinFinalize());
-  EXPECT_TRUE(TavrinFinalize());
-  EXPECT_EQ(LastError(), ErrorNone);
-}
-
 TEST_F(LifeCycle, ANullPathKeepsTheLoadedDefinition) {
   ASSERT_TRUE(InitializeDefinition("PrintMargin=1\n"));
   EXPECT_FALSE(TavrinInitialize(nullptr));

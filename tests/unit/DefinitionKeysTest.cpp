@@ -4,10 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include "TavrinLib.h"
 #include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
 #include "keys/KnownKeys.h"
+#include "support/Answers.h"
 #include "support/TestFiles.h"
 
 namespace tavrin {
@@ -91,37 +93,17 @@ std::string DescribeInks(const PrinterConfig& config) {
   return out.str();
 }
 
-std::string Describe(const PrinterConfig& config) {
-  std::ostringstream out;
-  out << config.ModelName << '\n' << config.Version << '\n' << config.IPAddress << '\n';
-  for (const double value : {config.PrinterSize.x, config.PrinterSize.y, config.PrinterSize.z,
-                             config.HeadBandSize, config.SupportExtendAngle})
-    out << std::hexfloat << value << '\n';
-  for (const std::int32_t value :
-       {config.PrintMargin, config.CuttingMarginThickness, config.SupportThickness,
-        config.SupportExtend, config.DetachLayerSize, config.DefaultMode,
-        config.CuttingMarginSetting, config.SupportSize})
-    out << value << '\n';
-  for (const bool value : {config.AntiAliasing, config.Reverse, config.WhiteWhite,
-                           config.AutoCleaningEnabled, config.NCUEnabled})
-    out << value << '\n';
-  out << config.Modes.size() << " modes\n" << DescribeInks(config);
-  for (const auto& category : config.InkCategories) {
-    out << category->name << ':';
-    for (const NumberedInkSlot* slot : category->slots)
-      out << ' ' << slot->GetSlotNumber();
-    out << '\n';
-  }
-  return out.str();
+/// What the exports answer when a definition is loaded.
+std::string AnswersTo(const std::string& content) {
+  const TestFolder folder;
+  EXPECT_TRUE(TavrinInitialize(folder.WriteEnciphered("printer.dat", content).c_str()));
+  const std::string answers = test::AskEverything();
+  TavrinFinalize();
+  return answers;
 }
 
 TEST(DefinitionTemplate, LoadsToTheBuiltInDefaults) {
-  const TestFolder folder;
-  PrinterConfig fromTemplate;
-  ASSERT_TRUE(fromTemplate.Parse(kTemplate));
-  PrinterConfig fromVersion;
-  ASSERT_TRUE(fromVersion.Parse(folder.Write("printer.ini", Definition(""))));
-  EXPECT_EQ(Describe(fromTemplate), Describe(fromVersion));
+  EXPECT_EQ(AnswersTo(ReadWhole(kTemplate)), AnswersTo(Definition("")));
 }
 
 TEST(DefinitionTemplate, IsWholeWithEveryKeyTakenIn) {

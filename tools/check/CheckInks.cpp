@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "check/Rules.h"
+#include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
 #include "util/TextUtilities.h"
 
@@ -38,7 +39,7 @@ std::vector<const WatchedRead*> CodesOf(const Reading& reading, const Table& tab
 void CheckCount(const Check& check, const char* key) {
   const WatchedRead* count = check.reading.FindNumber(key);
   if (count == nullptr || count->number >= 1.0) return;
-  check.Warn(key, "a count below 1 counts as missing",
+  check.Warn("count-below-one", key, "a count below 1 counts as missing",
              FactsOf(key).Outcome(*check.reading.config, 0), "write 1 or more, or remove the line");
 }
 
@@ -50,28 +51,48 @@ void CheckMissingEntries(const Check& check, const Table& table) {
     if (code->found || check.reading.lines.Find(NameKeyOf(*code)) != nullptr) ++present;
   }
   if (count == nullptr || count->number < 1.0 || count->number <= present) return;
-  check.Warn(table.countKey, "fewer entries than it counts are there",
+  check.Warn("entries-missing", table.countKey, "fewer entries than it counts are there",
              "the printer gets " + std::to_string(table.entries.size()) + " of them",
              "write the missing entries or lower it");
 }
 
+/// What ids of inks of the type are as a number, which is what categories go by. In those of types
+/// from -9 to -1 it ends at the sign.
+std::int32_t IdNumber(const std::string& digits) {
+  std::int32_t number = 0;
+  ParseInt(digits + "001", &number);
+  return number;
+}
+
+/// Ids hold the last three digits of both codes; categories hold the colour's whole code.
 void CheckCodes(const Check& check, const Table& table) {
+  const bool isColors = &table.entries == &check.reading.config->Colors;
   std::map<double, std::string> byCode;
   std::map<std::string, std::string> byLastDigits;
+  std::map<std::int32_t, std::string> byIdNumber;
   for (const WatchedRead* code : CodesOf(check.reading, table)) {
     const WatchedRead* name = check.reading.Find(NameKeyOf(*code));
     if (!code->converted || name == nullptr || !name->found) continue;  // no entry came of it
+    const std::string& key = code->key;
     std::string digits;
     FormatLastThreeDigits(static_cast<std::int32_t>(code->number), &digits);
-    const auto [same, isNewCode] = byCode.emplace(code->number, code->key);
-    const auto [similar, isNew] = byLastDigits.emplace(digits, code->key);
-    if (isNew) continue;
-    check.Warn(code->key,
-               isNewCode ? "the code ends in the same three digits as " + similar->second
-                         : "the code is that of " + same->second,
-               isNewCode ? "inks that differ in it alone share one id and one category"
-                         : "slots find the first of the two alone",
-               "give it a code of its own");
+    const auto [same, isNewCode] = byCode.emplace(code->number, key);
+    const auto [similar, areNewDigits] = byLastDigits.emplace(digits, key);
+    const auto [equal, isNewNumber] = byIdNumber.emplace(IdNumber(digits), key);
+    const auto warn = [&](const char* rule, const std::string& what, const char* effect) {
+      check.Warn(rule, key, what, effect, "give it a code of its own");
+    };
+    if (!isNewCode) {
+      warn("same-code", "the code is that of " + same->second,
+           "slots find the first of the two alone");
+    } else if (!areNewDigits) {
+      warn("same-digits", "the code ends in the same three digits as " + similar->second,
+           isColors ? "inks that differ in it alone share one id"
+                    : "inks that differ in it alone share one id and one category");
+    } else if (!isNewNumber && !isColors) {
+      warn("same-number", "ids with this code are the same number as those with " + equal->second,
+           "inks that differ in it alone share one category");
+    }
   }
 }
 
@@ -82,7 +103,8 @@ void CheckSlotCodes(const Check& check, const Table& table) {
     const WatchedRead* read = check.reading.FindNumber(table.slotKey + number);
     const auto code = static_cast<std::int32_t>(read->number);
     if (slot->IsValid() || table.entries.Find(code) != nullptr) continue;
-    check.Warn(read->key, Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
+    check.Warn("unknown-code", read->key,
+               Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
                "slot " + number + " holds no known ink", "name a code of the table");
   }
 }
@@ -93,7 +115,7 @@ void CheckBuiltInSlots(const Check& check) {
     if (!slot->IsValid()) invalid += ' ' + std::to_string(slot->GetSlotNumber());
   }
   if (invalid.empty()) return;
-  check.Warn(kSlotCount, "the tables lack codes that the built-in slots name",
+  check.Warn("slots-without-ink", kSlotCount, "the tables lack codes that the built-in slots name",
              "these slots hold no known ink:" + invalid, "write slots for the tables");
 }
 
@@ -113,7 +135,7 @@ void CheckCategories(const Check& check) {
     empty += (empty.empty() ? "" : " and ") + std::to_string(i) + ' ' + Quoted(categories[i]->name);
   }
   if (empty.empty()) return;
-  check.Add(Severity::Error, kSlotCount, "no slot is in ink category " + empty,
+  check.Add("empty-category", Severity::Error, kSlotCount, "no slot is in ink category " + empty,
             "the query for its slots fails", "give a slot an ink of that category");
 }
 

@@ -1,6 +1,4 @@
-#include <algorithm>
-#include <numeric>
-
+#include "Spelling.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
@@ -10,21 +8,6 @@ namespace tavrin::tool {
 namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
-
-/// How many letters have to be put in, taken out or replaced to make one text of the other.
-std::size_t SpellingDistance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : a) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (c == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
 
 /// The known key whose spelling is nearest, with the number that name has or else 1;
 /// empty when none is near.
@@ -55,7 +38,8 @@ bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32
 
 void CheckUnknownKey(const Check& check, const KeyLine& line) {
   const std::string nearest = NearestKey(check.reading, line.name);
-  check.Add(line.number, Severity::Warning, line.name,
+  check.Add(line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning,
+            line.name,
             line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
             kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
 }
@@ -67,7 +51,7 @@ void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string
   const bool isChoice =
       governor == "CuttingMarginSetting" && check.reading.FindNumber(governor) != nullptr;
   const bool isWritten = check.reading.lines.Find(governor) != nullptr;
-  check.Add(line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
+  check.Add("uncalled-key", line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
             Numbered(governor + " does not ask for number #", number), kNoEffect,
             (isWritten ? "change " : "write ") + governor + " or remove the line");
 }
@@ -80,7 +64,7 @@ void CheckUnreadKey(const Check& check, const KeyLine& line) {
   } else if (const char* governor = FactsOf(known->Shape()).governor) {
     CheckUncalledKey(check, line, governor, number);
   } else {
-    check.Add(line.number, Severity::Warning, line.name,
+    check.Add("uncalled-key", line.number, Severity::Warning, line.name,
               "nothing asks for this key without print modes", kNoEffect,
               "list modes in Mode or remove the line");
   }
@@ -96,32 +80,14 @@ const KeyLine* EarlierLine(const LineIndex& lines, const KeyLine& line) {
 }
 
 void CheckLine(const Check& check, const KeyLine& line) {
-  if (!check.reading.Confirms(line)) return;
-  const auto warn = [&](const std::string& what, const std::string& remedy) {
-    check.Add(line.number, Severity::Warning, line.name, what, kNoEffect, remedy);
-  };
-  const std::string header = std::to_string(check.reading.lines.HeaderLine());
-  if (line.place == KeyLine::Place::Outside) {
-    warn("this key is outside section [printer]", "move it into that section");
-  } else if (line.place == KeyLine::Place::LaterSection) {
-    warn("only the first section [printer] is read", "move it to the section in line " + header);
-  } else if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
-    warn("only the first line of a key counts",
-         "remove it or line " + std::to_string(earlier->number));
+  if (line.place != KeyLine::Place::Section || !check.reading.Confirms(line)) return;
+  if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
+    check.Add("key-twice", line.number, Severity::Warning, line.name,
+              "only the first line of a key counts", kNoEffect,
+              "remove it or line " + std::to_string(earlier->number));
   } else if (check.reading.Find(line.name) == nullptr) {
     CheckUnreadKey(check, line);
   }
-}
-
-void CheckVersion(const Check& check) {
-  const LineIndex& lines = check.reading.lines;
-  const KeyLine* version = lines.Find("Version");
-  check.Add(Severity::Error, "Version",
-            lines.HeaderLine() == 0  ? "there is no section [printer]"
-            : version == nullptr     ? "this key is missing"
-            : version->value.empty() ? "this key has no value"
-                                     : "nothing of so long a value is read",
-            "the definition does not load", "write Version=... in section [printer]");
 }
 
 }  // namespace
@@ -130,7 +96,8 @@ bool CheckMark(const Check& check) {
   const LineIndex& lines = check.reading.lines;
   const bool loads = check.reading.loads;
   if (lines.HiddenHeaderLine() == 0) return false;
-  check.Add(lines.HiddenHeaderLine(), loads ? Severity::Warning : Severity::Error, "[printer]",
+  check.Add("hidden-section", lines.HiddenHeaderLine(), loads ? Severity::Warning : Severity::Error,
+            "[printer]",
             lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
                             : "a byte order mark before the section hides it",
             loads ? "its keys are not read" : "the definition does not load",
@@ -140,11 +107,6 @@ bool CheckMark(const Check& check) {
 }
 
 void CheckLines(const Check& check) {
-  if (!check.reading.loads) CheckVersion(check);
-  for (const std::size_t header : check.reading.lines.CrowdedHeaders()) {
-    check.Add(header, Severity::Warning, "[printer]", "text follows ] in its line",
-              "it has no effect", "move it to a line of its own");
-  }
   for (const KeyLine& line : check.reading.lines.Keys())
     CheckLine(check, line);
 }

@@ -23,8 +23,8 @@ void CheckDefaultMode(const Check& check) {
   const std::int32_t number = check.reading.config->DefaultMode;
   const bool isWritten = check.reading.lines.Find("DefaultMode") != nullptr;
   if ((check.reading.config->Modes.empty() && !isWritten) || HasMode(check, number)) return;
-  check.Add(check.reading.LineOf(isWritten ? "DefaultMode" : "Mode"), Severity::Warning,
-            "DefaultMode", Numbered(kNoSuchMode, number),
+  check.Add("unknown-default-mode", check.reading.LineOf(isWritten ? "DefaultMode" : "Mode"),
+            Severity::Warning, "DefaultMode", Numbered(kNoSuchMode, number),
             "the default is a mode that no host finds", "name one of the modes");
 }
 
@@ -34,13 +34,13 @@ void CheckModes(const Check& check) {
   CheckDefaultMode(check);
   for (const std::int32_t number : check.reading.limitationModes) {
     if (HasMode(check, number)) continue;
-    check.Warn("LimitationMode", Numbered(kNoSuchMode, number), "the number has no effect",
-               "name one of the modes");
+    check.Warn("unknown-limited-mode", "LimitationMode", Numbered(kNoSuchMode, number),
+               "the number has no effect", "name one of the modes");
   }
   std::set<std::int32_t> seen;
   for (const std::int32_t number : check.reading.modes) {
     if (seen.insert(number).second) continue;
-    check.Warn("Mode", Numbered("mode # is listed again", number),
+    check.Warn("mode-twice", "Mode", Numbered("mode # is listed again", number),
                HasMode(check, number) ? "the printer gets it once more" : "it is left out again",
                "list each mode once");
   }
@@ -49,7 +49,7 @@ void CheckModes(const Check& check) {
     const bool isOutOfRange = mode->SliceSize == std::numeric_limits<std::int32_t>::min();
     if (mode->SliceSize > 0 || isOutOfRange || seen.erase(mode->Number) == 0) continue;
     const std::string key = Numbered("Mode#SliceSize", mode->Number);
-    check.Warn(key,
+    check.Warn("no-slice", key,
                check.reading.FindNumber(key)->number == 0.0 ? "the slice is 0"
                : mode->SliceSize == 0 ? "the slice is cut to whole um, which leaves 0"
                                       : "the slice is negative",

@@ -8,7 +8,8 @@ namespace {
 void CheckText(const Check& check, const char* key, const std::string& text) {
   constexpr std::size_t kLongest = 128;
   if (text.size() <= kLongest) return;
-  check.Add(Severity::Error, key, "the text has " + std::to_string(text.size()) + " bytes",
+  check.Add("long-text", Severity::Error, key,
+            "the text has " + std::to_string(text.size()) + " bytes",
             "the query for all three texts of the printer fails", "shorten it to 128 bytes");
 }
 
@@ -16,7 +17,7 @@ void CheckText(const Check& check, const char* key, const std::string& text) {
 void CheckSwitch(const Check& check, const char* key, double off, const std::string& what) {
   const WatchedRead* read = check.reading.FindNumber(key);
   if (read == nullptr || read->number == 1.0 || read->number == off) return;
-  check.Warn(key, Numbered(what, static_cast<std::int32_t>(read->number)),
+  check.Warn("switch-value", key, Numbered(what, static_cast<std::int32_t>(read->number)),
              FactsOf(key).Outcome(*check.reading.config, 0),
              Numbered("write 1 for on or # for off", static_cast<std::int32_t>(off)));
 }

@@ -82,9 +82,14 @@ class ValueCheck {
   const KeyLine* OtherHalf() const;
   /// Lengths are held in whole µm; the angle is the one number read as such that is none.
   bool IsLength() const { return read_.kind == Kind::Number && read_.key != "SupportExtendAngle"; }
+  /// Whether the printer gets an empty text when the key is missing.
+  bool IsEmptyWithout() const {
+    return read_.kind == Kind::Text && Outcome() == "the printer gets " + Quoted("");
+  }
   std::string Outcome() const { return facts_.Outcome(*check_.reading.config, number_); }
-  void Warn(const std::string& what, const std::string& effect, const std::string& remedy) const {
-    check_.Warn(read_.key, what, effect, remedy);
+  Finding& Warn(const char* rule, const std::string& what, const std::string& effect,
+                const std::string& remedy) const {
+    return check_.Warn(rule, read_.key, what, effect, remedy);
   }
 
   const Check& check_;
@@ -97,17 +102,19 @@ class ValueCheck {
 void ValueCheck::CheckMissing() const {
   const std::string shape = facts_.shape;
   if (line_ != nullptr && !line_->value.empty()) {
-    Warn("nothing of so long a value is read", Outcome(), "shorten it to 260 characters");
+    Warn("long-value", "nothing of so long a value is read", Outcome(),
+         "shorten it to 260 characters");
   } else if (line_ != nullptr) {
-    Warn("a key without a value counts as missing", Outcome(), "write a value");
+    if (IsEmptyWithout() && !line_->hasNul) return;  // it is what is written
+    Warn("no-value", "a key without a value counts as missing", Outcome(), "write a value");
   } else if (facts_.governor == nullptr || shape == "Mode#LimitedContinuous") {
-    check_.Add(Severity::Note, read_.key, "this key is missing", Outcome(),
+    check_.Add("default-used", Severity::Note, read_.key, "this key is missing", Outcome(),
                "write it if something else is meant");
   } else if (shape.find("Color#") != 0 && shape.find("InkType#") != 0) {
-    Warn(std::string(facts_.governor) + " asks for this key, which is missing", Outcome(),
-         "write it");
+    Warn("key-missing", std::string(facts_.governor) + " asks for this key, which is missing",
+         Outcome(), "write it");
   } else if (const KeyLine* half = OtherHalf()) {
-    check_.Add(half->number, Severity::Warning, read_.key,
+    check_.Add("key-missing", half->number, Severity::Warning, read_.key,
                half->name + " needs this key, which is missing", Outcome(), "write it");
   }
 }
@@ -119,16 +126,11 @@ const KeyLine* ValueCheck::OtherHalf() const {
 }
 
 void ValueCheck::CheckText() const {
-  constexpr wchar_t kReplacement = 0xFFFD;
   CheckLength();
   if (line_ != nullptr && line_->hasNul)
-    Warn("a NUL ends the name or the value", kRestHasNoEffect, "remove it");
-  if (read_.text.find(kReplacement) != std::wstring::npos &&
-      (line_ == nullptr || line_->value.find("\xEF\xBF\xBD") == std::string::npos)) {
-    Warn("the value has bytes that are no character of the user's encoding",
-         "the printer gets a replacement character for each", "save the file in that encoding");
-  } else if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
-    Warn("the value has a character that the user's encoding lacks",
+    Warn("nul", "a NUL ends the name or the value", kRestHasNoEffect, "remove it");
+  if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
+    Warn("unencodable", "the value has a character that the user's encoding lacks",
          "the printer gets an empty text", "do without that character");
   }
 }
@@ -142,7 +144,7 @@ void ValueCheck::CheckLength() const {
         check_.reading.lines.IsUtf16() ? line_->value.size() : CharactersOf(WideCopy(line_->value));
   }
   if (written <= kLongest) return;
-  Warn("the value is longer than 260 characters",
+  Warn("long-value", "the value is longer than 260 characters",
        written > read ? "only the first " + std::to_string(read) + " are read"
                       : "it is read beyond what definitions may have",
        "shorten it");
@@ -163,12 +165,12 @@ void ValueCheck::CheckFields() const {
   const std::string count =
       "the list has " + Counted(fields.size(), "field") + " in place of " + std::to_string(wanted);
   if (fields.size() < wanted) {
-    Warn(count, Outcome(), "write all of them");
+    Warn("fields-missing", count, Outcome(), "write all of them");
     return;
   }
   for (std::size_t i = 0; i < wanted; ++i)
     CheckField(WideCopy(fields[i]), isInteger);
-  if (fields.size() > wanted) Warn(count, kRestHasNoEffect, "remove the rest");
+  if (fields.size() > wanted) Warn("fields-beyond", count, kRestHasNoEffect, "remove the rest");
 }
 
 void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
@@ -179,12 +181,14 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
   const std::string quoted = Quoted(NarrowCopy(field));
   const bool converts = isInteger ? ParseInt(field, &integer) : ParseDouble(field, &number);
   if (!converts && BeginsWithForeignDigit(field)) {
-    Warn(quoted + " has digits beyond ASCII", Outcome(), "write it in the digits 0 to 9");
+    Warn("digits-beyond-ascii", quoted + " has digits beyond ASCII", Outcome(),
+         "write it in the digits 0 to 9");
     return;
   }
   if (!converts) {
     const bool isNumber = !isInteger && !written.empty();
-    Warn(quoted + (isInteger  ? " is no 32-bit integer"
+    Warn(isNumber ? "number-range" : "no-number",
+         quoted + (isInteger  ? " is no 32-bit integer"
                    : isNumber ? " is out of the range of numbers"
                               : " is no number"),
          Outcome(),
@@ -197,7 +201,7 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
   const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
   if (std::all_of(end, field.end(), isBlank)) return;
   const std::string read = Quoted(written);
-  Warn("only " + read + " of " + quoted + " is read", kRestHasNoEffect,
+  Warn("number-in-part", "only " + read + " of " + quoted + " is read", kRestHasNoEffect,
        "write " + read + " or the number that is meant");
 }
 
@@ -208,17 +212,18 @@ void ValueCheck::CheckSize(const std::wstring& field, double number) const {
     const double size = std::trunc(number * kMicrometresPerMillimetre);
     const std::uint32_t handedOut = TruncateToUint32(size);
     if (size == handedOut && size > 0.0) return;
-    Warn(quoted + " is not in the range of 0.001 to 4294967.295",
+    Warn("value-range", quoted + " is not in the range of 0.001 to 4294967.295",
          "hosts get " + std::to_string(handedOut) + " um", "write it in mm");
   } else if (!IsLength() && !std::isfinite(number)) {
-    Warn(quoted + " is not finite", Outcome(), "write a finite number");
+    Warn("value-range", quoted + " is not finite", Outcome(), "write a finite number");
   }
 }
 
 void ValueCheck::CheckRange() const {
   constexpr std::int32_t kOverflow = std::numeric_limits<std::int32_t>::min();
   if (!IsLength() || !read_.converted || ToMicrometres(read_.number) != kOverflow) return;
-  Warn("the length is out of range", "the printer gets -2147483.648 mm", "write it in mm");
+  Warn("value-range", "the length is out of range", "the printer gets -2147483.648 mm",
+       "write it in mm");
 }
 
 }  // namespace

@@ -28,6 +28,7 @@ void PrintFinding(const std::string& file, const Finding& finding, bool inColor,
 nlohmann::ordered_json ToJson(const std::string& file, const Finding& finding) {
   return {{"file", ToUtf8(file)},
           {"line", finding.line},
+          {"rule", finding.rule},
           {"severity", kSeverities[static_cast<std::size_t>(finding.severity)].name},
           {"key", ToUtf8(finding.key)},
           {"what", ToUtf8(finding.what)},

@@ -1,24 +1,30 @@
 #include "check/Rules.h"
 
 #include <algorithm>
+#include <stdexcept>
+
+#include "check/RuleList.h"
 
 namespace tavrin::tool {
 
-void Check::Add(std::size_t line, Severity severity, const std::string& key,
-                const std::string& what, const std::string& effect,
-                const std::string& remedy) const {
+Finding& Check::Add(const char* rule, std::size_t line, Severity severity, const std::string& key,
+                    const std::string& what, const std::string& effect,
+                    const std::string& remedy) const {
+  if (!IsRule(rule)) throw std::logic_error(std::string("no rule has the id ") + rule);
   findings->push_back(
-      {line, severity, key.empty() ? Quoted(key) : Shortened(key), what, effect, remedy});
+      {rule, line, severity, key.empty() ? Quoted(key) : Shortened(key), what, effect, remedy});
+  return findings->back();
 }
 
-void Check::Add(Severity severity, const std::string& key, const std::string& what,
-                const std::string& effect, const std::string& remedy) const {
-  Add(reading.LineOf(key), severity, key, what, effect, remedy);
+Finding& Check::Add(const char* rule, Severity severity, const std::string& key,
+                    const std::string& what, const std::string& effect,
+                    const std::string& remedy) const {
+  return Add(rule, reading.LineOf(key), severity, key, what, effect, remedy);
 }
 
-void Check::Warn(const std::string& key, const std::string& what, const std::string& effect,
-                 const std::string& remedy) const {
-  Add(Severity::Warning, key, what, effect, remedy);
+Finding& Check::Warn(const char* rule, const std::string& key, const std::string& what,
+                     const std::string& effect, const std::string& remedy) const {
+  return Add(rule, Severity::Warning, key, what, effect, remedy);
 }
 
 std::string Shortened(const std::string& text) {
@@ -50,7 +56,8 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules : {CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks})
+  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
+                           CheckModes, CheckInks, CheckWhole})
     rules(check);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });

@@ -10,13 +10,15 @@ namespace tavrin::tool {
 /// What the rules look at, and where their findings go.
 struct Check {
   /// Adds a finding on a line, or on the line of the key.
-  void Add(std::size_t line, Severity severity, const std::string& key, const std::string& what,
-           const std::string& effect, const std::string& remedy) const;
-  void Add(Severity severity, const std::string& key, const std::string& what,
-           const std::string& effect, const std::string& remedy) const;
+  ///
+  /// @return the finding, for what only some have; good until the next one is added.
+  Finding& Add(const char* rule, std::size_t line, Severity severity, const std::string& key,
+               const std::string& what, const std::string& effect, const std::string& remedy) const;
+  Finding& Add(const char* rule, Severity severity, const std::string& key, const std::string& what,
+               const std::string& effect, const std::string& remedy) const;
   /// The same for warnings on the line of the key.
-  void Warn(const std::string& key, const std::string& what, const std::string& effect,
-            const std::string& remedy) const;
+  Finding& Warn(const char* rule, const std::string& key, const std::string& what,
+                const std::string& effect, const std::string& remedy) const;
 
   const Reading& reading;
   Findings* findings;
@@ -40,8 +42,12 @@ Findings FindAll(const Reading& reading);
 ///
 /// @return whether nothing else loads; there is then no sense in the other rules.
 bool CheckMark(const Check& check);
-/// Sections, and lines that nothing reads.
+/// The section, and what stands outside it.
+void CheckSections(const Check& check);
+/// Lines that nothing reads.
 void CheckLines(const Check& check);
+/// Texts as they are written: comments, quotes, addresses, encodings.
+void CheckTexts(const Check& check);
 /// Each read by itself: whether it found a value, and what came of it.
 void CheckValues(const Check& check);
 /// Identity and switches.
@@ -49,5 +55,7 @@ void CheckPrinter(const Check& check);
 void CheckModes(const Check& check);
 /// Colours, ink types, slots and categories.
 void CheckInks(const Check& check);
+/// Whether the file is whole. It comes last, as what is missing for that reason is no mistake.
+void CheckWhole(const Check& check);
 
 }  // namespace tavrin::tool
