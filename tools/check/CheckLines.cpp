@@ -1,6 +1,4 @@
-#include <algorithm>
-#include <numeric>
-
+#include "Spelling.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
@@ -10,21 +8,6 @@ namespace tavrin::tool {
 namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
-
-/// How many letters have to be put in, taken out or replaced to make one text of the other.
-std::size_t SpellingDistance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : a) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (c == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
 
 /// The known key whose spelling is nearest, with the number that name has or else 1;
 /// empty when none is near.

@@ -6,6 +6,7 @@ namespace tavrin::tool {
 
 const std::vector<Rule>& ListRules() {
   static const std::vector<Rule> kRules = {
+      {"container", "Whether a plain or an enciphered file was judged."},
       {"count-below-one", "A count below 1 counts as missing."},
       {"default-used", "A key is missing and its default is used."},
       {"digits-beyond-ascii", "A number is written in digits that are not those of ASCII."},
@@ -40,11 +41,20 @@ const std::vector<Rule>& ListRules() {
       {"unencodable", "A value has a character that the user's encoding lacks."},
       {"unknown-code", "A slot names a code that no entry has."},
       {"unknown-default-mode", "The default mode is none of the modes."},
+      {"unknown-ignore", "A comment for this check asks for something that it does not know."},
       {"unknown-key", "Nothing reads this key."},
       {"unknown-limited-mode", "A limited mode is none of the modes."},
       {"value-range", "A value is beyond its range."},
+      {"wrong-container", "A file is plain that was to be enciphered, or the reverse."},
   };
   return kRules;
+}
+
+std::vector<std::string> RuleIds() {
+  std::vector<std::string> ids;
+  for (const Rule& rule : ListRules())
+    ids.emplace_back(rule.id);
+  return ids;
 }
 
 bool IsRule(std::string_view id) {
