@@ -32,15 +32,15 @@ bool HasHeader(const Reading& reading) {
 
 }  // namespace
 
-Reading ReadDefinition(const Bytes& definition) {
-  Reading plain(definition);
+DefinitionReading ReadDefinition(const Bytes& definition) {
+  DefinitionReading plain = {Reading(definition), Container::Plain};
   Bytes bytes = definition;
   if (!DecryptBuffer(bytes.data(), static_cast<std::uint32_t>(bytes.size()))) return plain;
-  Reading deciphered(bytes);
+  DefinitionReading deciphered = {Reading(bytes), Container::Enciphered};
   // What has keys when deciphered is what the library loads.
   for (const auto has : {HasKeys, HasHeader}) {
-    if (has(deciphered)) return deciphered;
-    if (has(plain)) return plain;
+    if (has(deciphered.reading)) return deciphered;
+    if (has(plain.reading)) return plain;
   }
   return DoubtsAbout(bytes) < DoubtsAbout(definition) ? std::move(deciphered) : std::move(plain);
 }

@@ -37,7 +37,7 @@ struct Finding {
   std::string what;        ///< what happened
   std::string effect;      ///< what the printer gets instead
   std::string remedy;      ///< what to do
-  std::size_t column = 0;  ///< from 1; 0: the line as a whole
+  std::size_t column = 0;  ///< from 1, of rules in the index's characters; 0: the line as a whole
   Certainty certainty = Certainty::None;
   std::vector<Edit> edits = {};  ///< what following the remedy changes, where it is certain
 };

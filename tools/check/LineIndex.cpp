@@ -97,8 +97,10 @@ LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
 
 void LineIndex::AddLine(std::size_t number, std::string_view text) {
   const std::string_view line = Trim(text);
-  if (line.empty() || line.front() == ';') return;
-  if (line.front() == '[') {
+  if (line.empty()) return;
+  if (line.front() == ';') {
+    comments_.push_back({number, std::string(line.substr(1))});
+  } else if (line.front() == '[') {
     AddHeader(number, text);
   } else {
     AddKey(number, text);

@@ -43,6 +43,12 @@ struct SectionHeader {
   std::size_t end = 0;    ///< what follows ]
 };
 
+/// A line that says nothing to the library.
+struct CommentLine {
+  std::size_t number;  ///< from 1
+  std::string text;    ///< what follows its semicolon
+};
+
 /// What the index and the library have alike of a text: its ASCII but for '?', which either puts
 /// for other characters.
 template <typename Text>
@@ -75,6 +81,7 @@ class LineIndex {
   LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown);
 
   const std::vector<KeyLine>& Keys() const { return keys_; }
+  const std::vector<CommentLine>& Comments() const { return comments_; }
   /// The line of the key that counts: the first in the first section of the name; null when there
   /// is none.
   const KeyLine* Find(std::string_view key) const;
@@ -97,6 +104,7 @@ class LineIndex {
   TextFormat format_;
   bool isKnown_;
   std::vector<KeyLine> keys_;
+  std::vector<CommentLine> comments_;
   std::map<std::string, std::size_t> counting_;  ///< by folded name, into keys_
   std::size_t headerLine_ = 0;
   std::size_t hiddenHeaderLine_ = 0;

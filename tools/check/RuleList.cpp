@@ -8,6 +8,7 @@ const std::vector<Rule>& ListRules() {
   static const std::vector<Rule> kRules = {
       {"address", "An address looks like IPv4 and is none, or is a URL."},
       {"beyond-ascii", "Characters of texts depend on the code page of the machine."},
+      {"container", "Whether a plain or an enciphered file was judged."},
       {"count-below-one", "A count below 1 counts as missing."},
       {"damaged", "From a line on the file is no text."},
       {"default-used", "A key is missing and its default is used."},
@@ -51,12 +52,21 @@ const std::vector<Rule>& ListRules() {
       {"unencodable", "A value has a character that the user's encoding lacks."},
       {"unknown-code", "A slot names a code that no entry has."},
       {"unknown-default-mode", "The default mode is none of the modes."},
+      {"unknown-ignore", "A comment for this check asks for something that it does not know."},
       {"unknown-key", "Nothing reads this key."},
       {"unknown-limited-mode", "A limited mode is none of the modes."},
       {"value-comment", "A comment stands behind a value and is part of it."},
       {"value-range", "A value is beyond its range."},
+      {"wrong-container", "A file is plain that was to be enciphered, or the reverse."},
   };
   return kRules;
+}
+
+std::vector<std::string> RuleIds() {
+  std::vector<std::string> ids;
+  for (const Rule& rule : ListRules())
+    ids.emplace_back(rule.id);
+  return ids;
 }
 
 bool IsRule(std::string_view id) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,9 @@ struct Rule {
 
 /// Every kind, in the order of the ids.
 const std::vector<Rule>& ListRules();
+
+/// The ids of all.
+std::vector<std::string> RuleIds();
 
 /// Whether a kind has this id.
 bool IsRule(std::string_view id);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "check/Columns.h"
+#include "check/Ignores.h"
 #include "check/RuleList.h"
 
 namespace tavrin::tool {
@@ -56,11 +58,13 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
-                           CheckModes, CheckInks, CheckRanges, CheckWhole})
+  for (const auto rules : {CheckIgnores, CheckSections, CheckLines, CheckValues, CheckTexts,
+                           CheckPrinter, CheckModes, CheckInks, CheckRanges, CheckWhole})
     rules(check);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });
+  DropIgnored(IgnoredBy(reading.lines), &findings);
+  PlaceColumns(reading, &findings);
   return findings;
 }
 

@@ -50,6 +50,8 @@ void CheckLines(const Check& check);
 void CheckTexts(const Check& check);
 /// Each read by itself: whether it found a value, and what came of it.
 void CheckValues(const Check& check);
+/// Comments that silence kinds of findings, for ids that there are not.
+void CheckIgnores(const Check& check);
 /// Identity and switches.
 void CheckPrinter(const Check& check);
 void CheckModes(const Check& check);

@@ -2,15 +2,23 @@
 
 #include <algorithm>
 #include <exception>
-#include <iostream>
 #include <map>
 #include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "Failure.h"
+#include "Spelling.h"
 #include "check/DefinitionReading.h"
+#include "check/FileReport.h"
 #include "check/FindingLimit.h"
-#include "check/FindingsOutput.h"
+#include "check/Ignores.h"
+#include "check/RuleList.h"
 #include "check/Rules.h"
+#include "commands/CommandLine.h"
+#include "files/DefinitionFiles.h"
 #include "files/FileTransfer.h"
 #include "files/StandardStreams.h"
 
@@ -18,92 +26,143 @@ namespace tavrin::tool {
 
 namespace {
 
-constexpr int kFailed = 3;
-
 const std::map<std::string, Severity> kThresholds = {
     {"note", Severity::Note}, {"warning", Severity::Warning}, {"error", Severity::Error}};
 
 struct CheckOptions {
   std::vector<std::string> files;
   std::string threshold = "warning";
-  bool quiet = false;
+  std::set<std::string> ignored;
+  std::string container = "any";
   std::string color = "auto";
   std::string format = "text";
+  bool isQuiet = false;
 };
 
-Findings CheckFile(const std::string& file) {
-  return FindAll(ReadDefinition(file == "-" ? ReadStandardInput() : ReadFile(file)));
+void CheckContainer(const Check& check, Container container, const std::string& wanted) {
+  const std::string name = NameOf(container);
+  check.Add("container", 1, Severity::Note, "container", "the file is " + name,
+            container == Container::Plain ? "hosts cannot load it as it is"
+                                          : "its deciphered text was judged",
+            container == Container::Plain ? "encipher it for them" : "nothing is to be done");
+  if (wanted == "any" || wanted == name) return;
+  check.Add("wrong-container", 1, Severity::Error, "container",
+            "the file is " + name + " and was to be " + wanted,
+            container == Container::Plain ? "hosts cannot load it" : "it cannot be edited as it is",
+            container == Container::Plain ? "make a definition of it with tavrin encipher"
+                                          : "get its text with tavrin decipher");
 }
 
-/// @return the exit status.
-int CheckFiles(const CheckOptions& options) {
-  const Severity threshold = kThresholds.at(options.threshold);
-  const bool asJson = options.format == "json";
-  const bool inColor =
-      options.color == "always" || (options.color == "auto" && PrepareTerminalColors());
-  auto objects = nlohmann::ordered_json::array();
-  int status = 0;
-  for (const std::string& file : options.files) {
-    try {
-      for (const Finding& finding : LimitFindings(CheckFile(file), threshold)) {
-        status = std::max(status, static_cast<int>(finding.severity));
-        if (asJson) objects.push_back(ToJson(file, finding));
-        if (!asJson && !options.quiet) PrintFinding(file, finding, inColor, std::cout);
-      }
-    } catch (const std::exception& error) {
-      ReportFailure(error);
-      status = kFailed;
-    }
+Findings FindingsIn(const DefinitionReading& definition, const CheckOptions& options) {
+  Findings findings;
+  CheckContainer({definition.reading, &findings}, definition.container, options.container);
+  DropIgnored(IgnoredBy(definition.reading.lines), &findings);
+  const Findings found = FindAll(definition.reading);
+  findings.insert(findings.end(), found.begin(), found.end());
+  DropIgnored(options.ignored, &findings);
+  return LimitFindings(std::move(findings), kThresholds.at(options.threshold));
+}
+
+void CheckFile(const std::string& file, const CheckOptions& options, FileReports* reports) {
+  FileReport report = {file};
+  try {
+    const DefinitionReading definition =
+        ReadDefinition(file == "-" ? ReadStandardInput() : ReadFile(file));
+    report.container = definition.container;
+    report.findings = FindingsIn(definition, options);
+  } catch (const std::exception& error) {
+    ReportFailure(error);
+    report.failure = error.what();
   }
-  if (asJson && !options.quiet)
-    std::cout << objects.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
-              << '\n';
-  if (!std::cout.flush()) {
-    throw Failure("standard output", "cannot be written", "check where it leads to");
+  reports->push_back(report);
+}
+
+void CheckFileOrDirectory(const std::string& file, const CheckOptions& options,
+                          FileReports* reports) {
+  if (!IsDirectory(file)) {
+    CheckFile(file, options, reports);
+    return;
   }
+  try {
+    for (const std::string& listed : ListDefinitions(file))
+      CheckFile(listed, options, reports);
+  } catch (const std::exception& error) {
+    ReportFailure(error);
+    reports->push_back({file, {}, error.what()});
+  }
+}
+
+bool IsColorWanted(const std::string& color) {
+  if (color != "auto") return color == "always";
+  const bool isUnwanted =
+      !EnvironmentValue("NO_COLOR").empty() || EnvironmentValue("TERM") == "dumb";
+  return !isUnwanted && PrepareTerminalColors();
+}
+
+std::string Output(const FileReports& reports, const CheckOptions& options) {
+  if (options.format == "json") return ReportsAsJson(reports);
+  if (options.format == "sarif") return ReportsAsSarif(reports);
+  if (options.format == "github") return ReportsAsGithub(reports);
+  return ReportsAsText(reports, IsColorWanted(options.color)) +
+         (IsTerminal() ? SummaryOf(reports) : "");
+}
+
+ExitStatus CheckFiles(const CheckOptions& options) {
+  FileReports reports;
+  for (const std::string& file : options.files)
+    CheckFileOrDirectory(file, options, &reports);
+  if (!options.isQuiet) PrintText(Output(reports, options));
+  ExitStatus status = ExitStatus::NothingToReport;
+  for (const FileReport& report : reports)
+    status = std::max(status, report.Status());
   return status;
+}
+
+/// What is wrong with an id on the command line; empty when nothing is.
+std::string MistakeInId(const std::string& id) {
+  if (IsRule(id)) return {};
+  const std::string nearest = NearestName(id, RuleIds());
+  return id + " is no id of a finding" + (nearest.empty() ? "" : ", did you mean " + nearest + '?');
 }
 
 }  // namespace
 
-void AddCheck(CLI::App* app, int* status) {
+void AddCheck(CLI::App* app, ExitStatus* status) {
   const auto options = std::make_shared<CheckOptions>();
   CLI::App* command = app->add_subcommand(
       "check", "Tell what the library makes of definitions, and what in them goes wrong");
   command
       ->add_option("FILE", options->files,
-                   "Plain INI files or printer definitions, in any mix; - is standard input")
+                   "Plain INI files and printer definitions, and directories, of which all\n"
+                   "*.ini and *.dat are checked; - is standard input")
       ->required();
+  AddChoice(command, "--format", &options->format, {"text", "json", "sarif", "github"},
+            "What is printed");
+  AddChoice(command, "--threshold", &options->threshold, {"note", "warning", "error"},
+            "The least severity that is reported and counts");
   command
-      ->add_option("--threshold", options->threshold,
-                   "The least severity that is reported and counts: note, warning or error; "
-                   "warning without it")
-      ->check(CLI::IsMember({"note", "warning", "error"}).description(""));
-  command->add_flag("--quiet", options->quiet, "Print no findings; the exit status tells");
-  command
-      ->add_option("--color", options->color,
-                   "Whether severities are coloured: auto, always or never; auto, for terminals "
-                   "only, without it")
-      ->check(CLI::IsMember({"auto", "always", "never"}).description(""));
-  command->add_option("--format", options->format, "text or json; text without it")
-      ->check(CLI::IsMember({"text", "json"}).description(""));
+      ->add_option("--ignore", options->ignored,
+                   "Ids of findings that are neither reported nor count")
+      ->type_name("ID,...")
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->check(CLI::Validator(MistakeInId, ""));
+  AddChoice(command, "--container", &options->container, {"any", "plain", "enciphered"},
+            "What a file must be, or else it is an error");
+  AddChoice(command, "--color", &options->color, {"auto", "always", "never"},
+            "Whether severities are coloured; auto: on a terminal, unless NO_COLOR is\n"
+            "set or TERM is dumb");
+  command->add_flag("--quiet", options->isQuiet, "Print no findings; the exit status tells");
   command->footer(
-      "A finding is a line file:line: severity: key: what happened, what the printer gets\n"
-      "instead, what to do. An error keeps the definition from loading or a query from\n"
-      "answering; a warning is something written that has no effect, or a surprising one;\n"
+      "A finding is a line file:line:column: severity: key: what happened, what the printer\n"
+      "gets instead, what to do [id]. An error keeps the definition from loading or a query\n"
+      "from answering; a warning is something written that has no effect, or a surprising one;\n"
       "a note is a default that is used. A mode or a slot is judged up to its first bad key,\n"
-      "where the library stops reading it.\n"
-      "Exit status: 0 nothing found, 1 warnings, 2 errors, 3 a file that is empty or cannot be\n"
-      "read, or output that cannot be written; 2 also for a mistake in the command line\n\n"
-      "Example: tavrin check printer.ini");
-  command->callback([options, status] {
-    try {
-      *status = CheckFiles(*options);
-    } catch (const std::exception& error) {
-      ReportFailure(error);
-      *status = kFailed;
-    }
-  });
+      "where the library stops reading it. docs/check.md explains every id and the formats.\n"
+      "A comment '; tavrin-check: ignore ID' in a definition silences an id there.\n\n"
+      "Example: tavrin check printer.ini\n"
+      "         tavrin check --format=sarif definitions > findings.sarif");
+  command->callback([options, status] { *status = CheckFiles(*options); });
 }
 
 }  // namespace tavrin::tool

@@ -2,11 +2,12 @@
 
 #include <CLI/CLI.hpp>
 
+#include "ExitStatus.h"
+
 namespace tavrin::tool {
 
 /// Adds the command check, which tells the authors of definitions what the library makes of them.
-/// After it has run, status is 0 when nothing was found that counts, 1 for warnings, 2 for errors,
-/// and 3 when a file could not be read.
-void AddCheck(CLI::App* app, int* status);
+/// After it has run, status is what it found.
+void AddCheck(CLI::App* app, ExitStatus* status);
 
 }  // namespace tavrin::tool

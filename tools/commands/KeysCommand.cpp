@@ -14,6 +14,7 @@
 #include "Spelling.h"
 #include "check/LineIndex.h"
 #include "check/Rules.h"
+#include "commands/CommandLine.h"
 #include "files/FileTransfer.h"
 #include "files/TextForms.h"
 #include "keys/KeyFacts.h"
@@ -22,8 +23,6 @@
 namespace tavrin::tool {
 
 namespace {
-
-constexpr int kUsageError = 4;
 
 struct KeysOptions {
   std::optional<std::string> key;
@@ -128,7 +127,7 @@ std::string NearestShape(const std::string& name) {
       ->shape;
 }
 
-int PrintKeys(const KeysOptions& options) {
+ExitStatus PrintKeys(const KeysOptions& options) {
   std::vector<const KeyFacts*> keys;
   if (!options.key) {
     for (const KeyFacts& facts : ListKeyFacts())
@@ -138,7 +137,7 @@ int PrintKeys(const KeysOptions& options) {
   } else {
     std::cerr << "tavrin: " << Printable(Quoted(*options.key)) << ": no key has this name, the "
               << "nearest is " << NearestShape(*options.key) << " (tavrin keys prints them all)\n";
-    return kUsageError;
+    return ExitStatus::Usage;
   }
   if (options.format == "json") {
     nlohmann::ordered_json objects = nlohmann::ordered_json::array();
@@ -148,24 +147,23 @@ int PrintKeys(const KeysOptions& options) {
   } else {
     PrintText(!options.key ? Overview(keys) : Description(*keys.front()));
   }
-  return 0;
+  return ExitStatus::NothingToReport;
 }
 
 }  // namespace
 
-void AddKeys(CLI::App* app, int* status) {
+void AddKeys(CLI::App* app, ExitStatus* status) {
   const auto options = std::make_shared<KeysOptions>();
   CLI::App* command =
       app->add_subcommand("keys", "Print what there is to know of the keys of a definition");
   command->add_option("KEY", options->key,
                       "The key to print in full, such as PrintMargin or Mode1SliceSize; all keys "
                       "in brief without it");
-  command->add_option("--format", options->format, "text or json; text without it")
-      ->check(CLI::IsMember({"text", "json"}).description(""));
+  AddChoice(command, "--format", &options->format, {"text", "json"},
+            "Text for people or JSON for programs");
   command->footer(
       "# in a key's name stands for a number. Values out of range are taken as they are, or as\n"
-      "is said; tavrin check warns of them, and of those that no printer can use.\n"
-      "Exit status: 0; 4 when there is no such key\n\n"
+      "is said; tavrin check warns of them, and of those that no printer can use.\n\n"
       "Example: tavrin keys Mode1SliceSize\n"
       "         tavrin keys --format=json");
   command->callback([options, status] { *status = PrintKeys(*options); });

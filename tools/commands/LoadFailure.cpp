@@ -42,11 +42,11 @@ Failure ExplainLoadFailure(const std::string& file, std::chrono::milliseconds ta
   const Bytes bytes = ReadFile(file);
   if (IsPlainIni(bytes)) {
     return {file, "looks like a plain INI file, not a printer definition",
-            "make a definition of it with tavrin encipher"};
+            "make a definition of it with tavrin encipher", ExitStatus::Errors};
   }
   if (!LoadsElsewhere(bytes)) {
     return {file, "has no Version in a section [printer] when it is deciphered",
-            "tavrin check tells what the library makes of it"};
+            "tavrin check tells what the library makes of it", ExitStatus::Errors};
   }
   if (taken >= kLongestWait) {
     return {file, "another process has been loading a definition of this name for ten seconds",

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <string>
+#include <CLI/CLI.hpp>
 
 namespace tavrin::tool {
 
-enum class ShowFormat { Text, Json };
-
-/// Prints what the library answers about the printer definition file, as any host would ask it.
-void Show(const std::string& definition, ShowFormat format);
+/// Adds the command show, which prints what the library answers about a printer definition, as any
+/// host would ask it.
+void AddShow(CLI::App* app);
 
 }  // namespace tavrin::tool

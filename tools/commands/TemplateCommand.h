@@ -1,8 +1,11 @@
 #pragma once
 
+#include <CLI/CLI.hpp>
+
 namespace tavrin::tool {
 
-/// Prints a plain definition with every key explained, which loads to the built-in defaults.
-void PrintTemplate();
+/// Adds the command template, which prints a plain definition with every key explained that loads
+/// to the built-in defaults.
+void AddTemplate(CLI::App* app);
 
 }  // namespace tavrin::tool

@@ -19,6 +19,8 @@ namespace {
 /// A single transfer stays below the 2 GiB that some runtimes take at once.
 constexpr std::size_t kPieceSize = std::size_t{64} << 20;
 
+using std::filesystem::perms;
+
 std::string SystemMessage() {
   return std::generic_category().message(errno);
 }
@@ -38,6 +40,12 @@ std::filesystem::file_status StatusOf(const std::string& file) {
     throw Failure(file, "cannot be reached: " + error.message(), "check its path and permissions");
   }
   return status;
+}
+
+/// Nobody may write it. Taking its place would need no more than leave to write its directory.
+bool IsReadOnly(std::filesystem::file_status status) {
+  constexpr perms kWriters = perms::owner_write | perms::group_write | perms::others_write;
+  return std::filesystem::exists(status) && (status.permissions() & kWriters) == perms::none;
 }
 
 bool WriteAll(std::FILE* stream, const Bytes& bytes) {
@@ -93,7 +101,11 @@ std::uint32_t CheckInput(const std::string& file) {
 }
 
 void CheckOutput(const std::string& input, const std::string& output) {
-  CheckType(output, StatusOf(output));
+  const std::filesystem::file_status status = StatusOf(output);
+  CheckType(output, status);
+  if (IsReadOnly(status)) {
+    throw Failure(output, "is read-only", "make it writable or name another output file");
+  }
   const std::filesystem::path path = ToPath(output);
   if (!path.has_filename()) throw Failure(output, "names no file", "add a file name");
   std::error_code error;
@@ -119,14 +131,17 @@ Bytes ReadFile(const std::string& file) {
   return bytes;
 }
 
-void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions) {
+void WriteFile(const std::string& file, const Bytes& bytes, perms permissions) {
+  constexpr perms kOfPeople = perms::owner_all | perms::group_all | perms::others_all;
+  std::error_code error;
   const std::filesystem::path target = FollowLink(ToPath(file));
+  const std::filesystem::file_status replaced = std::filesystem::status(target, error);
+  if (std::filesystem::exists(replaced)) permissions = replaced.permissions() & kOfPeople;
   TemporaryFile temporary(target);
   if (temporary.Stream() == nullptr || !WriteAll(temporary.Stream(), bytes) || !temporary.Close()) {
     throw Failure(file, "cannot be written: " + SystemMessage(),
                   "check the directory's permissions and free space");
   }
-  std::error_code error;
   if (!temporary.Rename(permissions, &error)) {
     throw Failure(file, "cannot be replaced: " + error.message(),
                   "check its name and permissions, and that no program has it open");

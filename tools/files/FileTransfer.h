@@ -15,7 +15,8 @@ using Bytes = std::vector<unsigned char>;
 /// @return the file's size.
 std::uint32_t CheckInput(const std::string& file);
 
-/// Refuses an output that would take the place of the input, or that no file can be written to.
+/// Refuses an output that would take the place of the input, is read-only, or that no file can be
+/// written to.
 void CheckOutput(const std::string& input, const std::string& output);
 
 /// Reads the whole file, or refuses it as CheckInput does.
@@ -25,7 +26,9 @@ Bytes ReadFile(const std::string& file);
 Bytes ReadStandardInput();
 
 /// Writes the file in one step: either it holds all the bytes afterwards, or it is as it was.
-/// Until then its bytes can be read by the owner alone.
+/// Until then its bytes can be read by the owner alone. A file that is there keeps its permissions.
+///
+/// @param permissions those of a new file.
 void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions);
 
 /// Writes the bytes unchanged to standard output.

@@ -1,0 +1,113 @@
+#include "commands/CommandLine.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "Failure.h"
+#include "Spelling.h"
+#include "files/FileTransfer.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+class HelpForm : public CLI::Formatter {
+ public:
+  std::string make_option_opts(const CLI::Option* option) const override {
+    const bool takesValue = !option->get_positional() && option->get_expected_max() != 0;
+    return takesValue ? '=' + option->get_type_name() : std::string();
+  }
+  std::string make_subcommands(const CLI::App* app, CLI::AppFormatMode mode) const override {
+    return CLI::detail::find_and_replace(Formatter::make_subcommands(app, mode),
+                                         "Subcommands:", "Commands:");
+  }
+  std::string make_footer(const CLI::App* app) const override {
+    const std::string footer = app->get_footer();
+    return (footer.empty() ? "" : footer + "\n\n") + kExitStatuses + '\n';
+  }
+};
+
+std::string FullName(const CLI::App& command) {
+  const CLI::App* parent = command.get_parent();
+  return parent == nullptr ? command.get_name() : FullName(*parent) + ' ' + command.get_name();
+}
+
+std::string Suggestion(const std::string& nearest) {
+  return nearest.empty() ? nearest : ", did you mean " + nearest + '?';
+}
+
+Failure NoCommand(const CLI::App& app, const std::string& name) {
+  std::vector<std::string> names;
+  for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; }))
+    names.push_back(command->get_name());
+  return {name, "is no command" + Suggestion(NearestName(name, names)), "see tavrin --help",
+          ExitStatus::Usage};
+}
+
+const CLI::App* FindCommand(const CLI::App& app, const std::string& name) {
+  const auto found =
+      app.get_subcommands([&name](const CLI::App* command) { return command->get_name() == name; });
+  if (found.empty()) throw NoCommand(app, name);
+  return found.front();
+}
+
+Failure NoOption(const CLI::App& command, const std::string& option) {
+  std::vector<std::string> names;
+  for (const CLI::Option* known : command.get_options()) {
+    for (const std::string& name : known->get_lnames())
+      names.push_back("--" + name);
+  }
+  return {option, "is no option of " + FullName(command) + Suggestion(NearestName(option, names)),
+          "see " + FullName(command) + " --help", ExitStatus::Usage};
+}
+
+bool IsOption(const std::string& argument) {
+  return argument.size() > 1 && argument.front() == '-';
+}
+
+}  // namespace
+
+CLI::Option* AddChoice(CLI::App* command, const std::string& name, std::string* value,
+                       const std::vector<std::string>& choices, const std::string& meaning) {
+  return command->add_option(name, *value, meaning + "; " + *value + " without it")
+      ->type_name(CLI::detail::join(choices, "|"))
+      ->check(CLI::IsMember(choices).description(""));
+}
+
+void SetHelpForm(CLI::App* app) {
+  const auto form = std::make_shared<HelpForm>();
+  form->label("Positionals", "Arguments");
+  form->label("SUBCOMMAND", "COMMAND");
+  app->formatter(form);
+  app->set_help_flag("-h,--help", "Print this help");
+}
+
+void AddHelp(CLI::App* app) {
+  const auto name = std::make_shared<std::string>();
+  CLI::App* command = app->add_subcommand("help", "Print the help of a command");
+  command->add_option("COMMAND", *name, "The command; without it the help lists all");
+  command->footer("Example: tavrin help check");
+  command->callback([app, name] {
+    const CLI::App* about = name->empty() ? app : FindCommand(*app, *name);
+    PrintText(app->get_formatter()->make_help(about, FullName(*about), CLI::AppFormatMode::Normal));
+  });
+}
+
+std::string MistakeMessage(const CLI::App* app, const CLI::Error& error) {
+  const std::vector<CLI::App*> used = app->get_subcommands();
+  const CLI::App& command = used.empty() ? *app : *used.front();
+  const std::vector<std::string> extras = app->remaining(true);
+  const auto option = std::find_if(extras.begin(), extras.end(), IsOption);
+  std::string text = error.what() + (" (see " + FullName(command) + " --help)");
+  if (option != extras.end()) {
+    text = NoOption(command, option->substr(0, option->find('='))).what();
+  } else if (!extras.empty()) {
+    text = (used.empty() ? NoCommand(*app, extras.front())
+                         : Failure(extras.front(), "is one argument too many",
+                                   "see " + FullName(command) + " --help"))
+               .what();
+  }
+  return "tavrin: " + text + '\n';
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,63 @@
+#include "commands/DecipherCommand.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "Failure.h"
+#include "check/Container.h"
+#include "commands/Ciphering.h"
+#include "definition/FileCipher.h"
+#include "files/FileTransfer.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+constexpr std::filesystem::perms kOwnerOnly =
+    std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+
+/// The cipher is its own reverse, so that a plain file would come out enciphered.
+void CheckEnciphered(const std::string& definition, const Bytes& bytes) {
+  if (ContainerOf(bytes) != Container::Plain) return;
+  throw Failure(definition, "is plain already",
+                "name the enciphered file first, or --force puts it through the cipher",
+                ExitStatus::Errors);
+}
+
+void Decipher(const std::string& definition, const std::optional<std::string>& ini, bool isForced) {
+  CheckInput(definition);
+  if (ini) CheckOutput(definition, *ini);
+  Bytes bytes = ReadFile(definition);
+  if (!isForced) CheckEnciphered(definition, bytes);
+  bytes = Ciphered(definition, std::move(bytes), DecryptBuffer);
+  if (ini) {
+    WriteFile(*ini, bytes, kOwnerOnly);
+  } else {
+    WriteStandardOutput(bytes);
+  }
+}
+
+}  // namespace
+
+void AddDecipher(CLI::App* app) {
+  struct Options {
+    std::string definition;
+    std::optional<std::string> ini;
+    bool isForced = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app->add_subcommand("decipher", "Turn a printer definition into an INI file");
+  command->add_option("DEFINITION", options->definition, "The printer definition")->required();
+  command->add_option("INI", options->ini, "The INI file to write; standard output without it");
+  command->add_flag("--force", options->isForced, "Put also a plain file through the cipher");
+  command->footer(
+      "A new INI file can be read by its owner alone; one that is replaced keeps its permissions,\n"
+      "and one that is read-only is not replaced.\n\n"
+      "Example: tavrin decipher printer.dat printer.ini");
+  command->callback([options] { Decipher(options->definition, options->ini, options->isForced); });
+}
+
+}  // namespace tavrin::tool

@@ -1,0 +1,82 @@
+#include "commands/EncipherCommand.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "Failure.h"
+#include "check/Container.h"
+#include "check/Rules.h"
+#include "commands/Ciphering.h"
+#include "definition/FileCipher.h"
+#include "files/FilePath.h"
+#include "files/FileTransfer.h"
+
+namespace tavrin::tool {
+
+namespace {
+
+/// Refuses a definition that no printer could use: one that is enciphered, or that does not load.
+/// What shows no definition at all passes, so that a damaged file can be turned back and forth.
+void CheckPlain(const std::string& ini, const Bytes& bytes) {
+  const auto container = ContainerOf(bytes);
+  if (container == Container::Enciphered) {
+    throw Failure(ini, "is enciphered already",
+                  "name the plain file first, or --force enciphers it once more",
+                  ExitStatus::Errors);
+  }
+  if (container != Container::Plain) return;
+  const Reading reading(bytes);
+  if (reading.loads) return;
+  std::string cause;
+  for (const Finding& finding : FindAll(reading)) {
+    if (finding.severity != Severity::Error) continue;
+    cause = ": line " + std::to_string(finding.line) + ": " + Printable(finding.key) + ": " +
+            Printable(finding.what);
+    break;
+  }
+  throw Failure(ini, "would not load" + cause,
+                "tavrin check tells more, --force enciphers it all the same", ExitStatus::Errors);
+}
+
+/// The permissions of a new definition. Its owner can always change it again, because a file that
+/// is read-only cannot be replaced.
+std::filesystem::perms PermissionsLike(const std::string& ini) {
+  using std::filesystem::perms;
+  std::error_code error;
+  return std::filesystem::status(ToPath(ini), error).permissions() | perms::owner_read |
+         perms::owner_write;
+}
+
+void Encipher(const std::string& ini, const std::string& definition, bool isForced) {
+  CheckInput(ini);
+  CheckOutput(ini, definition);
+  Bytes bytes = ReadFile(ini);
+  if (!isForced) CheckPlain(ini, bytes);
+  WriteFile(definition, Ciphered(ini, std::move(bytes), EncryptBuffer), PermissionsLike(ini));
+}
+
+}  // namespace
+
+void AddEncipher(CLI::App* app) {
+  struct Options {
+    std::string ini;
+    std::string definition;
+    bool isForced = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app->add_subcommand("encipher", "Make a printer definition from an INI file");
+  command->add_option("INI", options->ini, "The plain INI file")->required();
+  command->add_option("DEFINITION", options->definition, "The printer definition to write")
+      ->required();
+  command->add_flag("--force", options->isForced,
+                    "Encipher also what is enciphered already or would not load");
+  command->footer(
+      "A new definition gets the INI file's permissions; one that is replaced keeps its own, and\n"
+      "one that is read-only is not replaced.\n\n"
+      "Example: tavrin encipher printer.ini printer.dat");
+  command->callback([options] { Encipher(options->ini, options->definition, options->isForced); });
+}
+
+}  // namespace tavrin::tool
