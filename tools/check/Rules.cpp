@@ -56,7 +56,8 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules : {CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks, CheckRanges})
+  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
+                           CheckModes, CheckInks, CheckRanges, CheckWhole})
     rules(check);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });

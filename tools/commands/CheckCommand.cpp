@@ -8,6 +8,7 @@
 
 #include "Failure.h"
 #include "check/DefinitionReading.h"
+#include "check/FindingLimit.h"
 #include "check/FindingsOutput.h"
 #include "check/Rules.h"
 #include "files/FileTransfer.h"
@@ -44,8 +45,7 @@ int CheckFiles(const CheckOptions& options) {
   int status = 0;
   for (const std::string& file : options.files) {
     try {
-      for (const Finding& finding : CheckFile(file)) {
-        if (finding.severity < threshold) continue;
+      for (const Finding& finding : LimitFindings(CheckFile(file), threshold)) {
         status = std::max(status, static_cast<int>(finding.severity));
         if (asJson) objects.push_back(ToJson(file, finding));
         if (!asJson && !options.quiet) PrintFinding(file, finding, inColor, std::cout);

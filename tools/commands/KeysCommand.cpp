@@ -11,13 +11,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Spelling.h"
 #include "check/LineIndex.h"
 #include "check/Rules.h"
 #include "files/FileTransfer.h"
 #include "files/TextForms.h"
 #include "keys/KeyFacts.h"
 #include "keys/KeyText.h"
-#include "keys/SpellingDistance.h"
 
 namespace tavrin::tool {
 

@@ -1,8 +1,7 @@
-#include "keys/SpellingDistance.h"
+#include "Spelling.h"
 
 #include <algorithm>
 #include <numeric>
-#include <vector>
 
 namespace tavrin::tool {
 
@@ -18,6 +17,18 @@ std::size_t SpellingDistance(const std::string& a, const std::string& b) {
     }
   }
   return row.back();
+}
+
+std::string NearestName(const std::string& written, const std::vector<std::string>& names) {
+  std::string nearest;
+  std::size_t limit = written.size() / 4 + 2;
+  for (const std::string& name : names) {
+    const std::size_t distance = SpellingDistance(written, name);
+    if (distance >= limit) continue;
+    nearest = name;
+    limit = distance;
+  }
+  return nearest;
 }
 
 }  // namespace tavrin::tool
