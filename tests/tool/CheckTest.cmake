@@ -59,8 +59,10 @@ if(NOT TOOL MATCHES "wine-run")
   check("nothing of the version" output MATCHES ":2: error: Version: nothing of so long a value ")
 endif()
 
-file(COPY ${PROJECT}/tools/keys/template.ini DESTINATION ${WORK})
-succeed(check template.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
+file(READ ${WORK}/template.ini template)
+string(REGEX REPLACE "\n;([A-Z])" "\n\\1" template "${template}")
+file(WRITE ${WORK}/template-whole.ini "${template}")
+succeed(check template.ini template-whole.ini full-colour.ini compact.ini minimal.ini full-colour.dat compact.dat minimal.dat)
 check("template and examples are not clean" NOT output)
 
 run(check --format=json white-off.ini)

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "Spelling.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"

@@ -80,8 +80,8 @@ class ValueCheck {
   void CheckSize(const std::wstring& field, double number) const;
   /// Of the code or name of a table's entry, the line of the other; null when it has none.
   const KeyLine* OtherHalf() const;
-  /// Lengths are held in whole µm; the angle is the one number read as such that is none.
-  bool IsLength() const { return read_.kind == Kind::Number && read_.key != "SupportExtendAngle"; }
+  /// Lengths are held in whole µm.
+  bool IsLength() const { return facts_.form == Form::Length; }
   /// Whether the printer gets an empty text when the key is missing.
   bool IsEmptyWithout() const {
     return read_.kind == Kind::Text && Outcome() == "the printer gets " + Quoted("");

@@ -57,7 +57,7 @@ Findings FindAll(const Reading& reading) {
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
   for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
-                           CheckModes, CheckInks, CheckWhole})
+                           CheckModes, CheckInks, CheckRanges, CheckWhole})
     rules(check);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });

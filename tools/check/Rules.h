@@ -55,6 +55,9 @@ void CheckPrinter(const Check& check);
 void CheckModes(const Check& check);
 /// Colours, ink types, slots and categories.
 void CheckInks(const Check& check);
+/// Numbers that are out of range, that no printer can use or that lose digits, as far as the rules
+/// before it have said nothing of them.
+void CheckRanges(const Check& check);
 /// Whether the file is whole. It comes last, as what is missing for that reason is no mistake.
 void CheckWhole(const Check& check);
 
