@@ -20,9 +20,9 @@ enum class Certainty {
 };
 
 /// A change of one line: count characters from column on, both as the index has the line, become
-/// text, which is ASCII.
+/// text, which is ASCII and ends no line.
 struct Edit {
-  std::size_t line;    ///< from 1
+  std::size_t line;    ///< from 1; 0: the byte order mark, which goes
   std::size_t column;  ///< from 0
   std::size_t count;
   std::string text;

@@ -27,27 +27,6 @@ std::string Unquoted(const std::string& value) {
   return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
-/// Of UTF-16 what is beyond ASCII comes out as '?'.
-std::string TextOf(const Bytes& plain, const TextFormat& format) {
-  if (format.unitLength == 1)
-    return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
-  std::string text;
-  for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
-    const unsigned char low = plain[i + format.lowByte];
-    const bool isAscii = plain[i + 1 - format.lowByte] == 0 && low < 0x80;
-    text += isAscii ? static_cast<char>(low) : '?';
-  }
-  return text;
-}
-
-std::string_view TakeLine(std::string_view* rest) {
-  const std::size_t length = std::min(rest->find_first_of("\r\n"), rest->size());
-  const std::string_view line = rest->substr(0, length);
-  rest->remove_prefix(length);
-  rest->remove_prefix(rest->substr(0, 2) == "\r\n" ? 2 : rest->empty() ? 0 : 1);
-  return line;
-}
-
 }  // namespace
 
 std::string Folded(std::string_view name) {
@@ -77,12 +56,34 @@ TextFormat TextFormat::Of(const Bytes& plain) {
   return {};
 }
 
+std::string TextOf(const Bytes& plain, const TextFormat& format) {
+  if (format.unitLength == 1)
+    return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
+  std::string text;
+  for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
+    const unsigned char low = plain[i + format.lowByte];
+    const bool isAscii = plain[i + 1 - format.lowByte] == 0 && low < 0x80;
+    text += isAscii ? static_cast<char>(low) : '?';
+  }
+  return text;
+}
+
+std::string_view TakeLine(std::string_view* rest) {
+  const std::size_t length = std::min(rest->find_first_of("\r\n"), rest->size());
+  const std::string_view line = rest->substr(0, length);
+  rest->remove_prefix(length);
+  rest->remove_prefix(rest->substr(0, 2) == "\r\n" ? 2 : rest->empty() ? 0 : 1);
+  return line;
+}
+
 LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
     : format_(format), isKnown_(isKnown) {
   const std::string text = TextOf(plain, format);
   std::string_view rest = text;
-  for (std::size_t number = 1; !rest.empty(); ++number)
+  for (std::size_t number = 1; !rest.empty(); ++number) {
+    starts_.push_back(text.size() - rest.size());
     AddLine(number, TakeLine(&rest));
+  }
 }
 
 void LineIndex::AddLine(std::size_t number, std::string_view text) {

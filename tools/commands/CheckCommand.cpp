@@ -10,6 +10,7 @@
 #include "check/DefinitionReading.h"
 #include "check/FindingsOutput.h"
 #include "check/Rules.h"
+#include "commands/FixCommand.h"
 #include "files/FileTransfer.h"
 #include "files/StandardStreams.h"
 
@@ -28,10 +29,18 @@ struct CheckOptions {
   bool quiet = false;
   std::string color = "auto";
   std::string format = "text";
+  bool fix = false;
+  bool diff = false;
 };
 
-Findings CheckFile(const std::string& file) {
-  return FindAll(ReadDefinition(file == "-" ? ReadStandardInput() : ReadFile(file)));
+Findings CheckFile(const std::string& file, const CheckOptions& options) {
+  const Bytes definition = file == "-" ? ReadStandardInput() : ReadFile(file);
+  // JSON is not to be mixed with it.
+  std::ostream& out = options.format == "text" ? std::cout : std::cerr;
+  if (options.fix) return FindAll(FixInPlace(file, definition, out));
+  const Reading reading = ReadDefinition(definition);
+  if (options.diff) PreviewFix(file, reading, out);
+  return FindAll(reading);
 }
 
 /// @return the exit status.
@@ -44,11 +53,12 @@ int CheckFiles(const CheckOptions& options) {
   int status = 0;
   for (const std::string& file : options.files) {
     try {
-      for (const Finding& finding : CheckFile(file)) {
+      for (const Finding& finding : CheckFile(file, options)) {
         if (finding.severity < threshold) continue;
         status = std::max(status, static_cast<int>(finding.severity));
         if (asJson) objects.push_back(ToJson(file, finding));
-        if (!asJson && !options.quiet) PrintFinding(file, finding, inColor, std::cout);
+        if (!asJson && !options.quiet && !options.diff)
+          PrintFinding(file, finding, inColor, std::cout);
       }
     } catch (const std::exception& error) {
       ReportFailure(error);
@@ -87,6 +97,13 @@ void AddCheck(CLI::App* app, int* status) {
       ->check(CLI::IsMember({"auto", "always", "never"}).description(""));
   command->add_option("--format", options->format, "text or json; text without it")
       ->check(CLI::IsMember({"text", "json"}).description(""));
+  CLI::Option* fix = command->add_flag(
+      "--fix", options->fix,
+      "Follow the remedies that are certain, in the files themselves, and print what that changes");
+  command
+      ->add_flag("--diff", options->diff,
+                 "Print what --fix would change, in place of findings; change nothing")
+      ->excludes(fix);
   command->footer(
       "A finding is a line file:line: severity: key: what happened, what the printer gets\n"
       "instead, what to do. An error keeps the definition from loading or a query from\n"
