@@ -34,6 +34,8 @@ struct CheckOptions {
 };
 
 Findings CheckFile(const std::string& file, const CheckOptions& options) {
+  if (options.fix && file == "-")
+    throw Failure("standard input", "cannot be changed in place", "name a file or take --diff");
   const Bytes definition = file == "-" ? ReadStandardInput() : ReadFile(file);
   // JSON is not to be mixed with it.
   std::ostream& out = options.format == "text" ? std::cout : std::cerr;

@@ -91,8 +91,6 @@ std::filesystem::perms PermissionsOf(const std::string& file) {
 }  // namespace
 
 Reading FixInPlace(const std::string& file, const Bytes& definition, std::ostream& out) {
-  if (file == "-")
-    throw Failure("standard input", "cannot be changed in place", "name a file or take --diff");
   Reading reading = ReadDefinition(definition);
   const Fix fix = FollowCertainRemedies(reading);
   if (fix.plain == reading.plain) return reading;
