@@ -1,8 +1,8 @@
-#include <algorithm>
-#include <numeric>
+#include <set>
 
+#include "check/KeySuggestion.h"
+#include "check/LineEdits.h"
 #include "check/Rules.h"
-#include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
@@ -11,54 +11,26 @@ namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
 
-/// How many letters have to be put in, taken out or replaced to make one text of the other.
-std::size_t SpellingDistance(const std::string& a, const std::string& b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : a) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (c == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
-
-/// The known key whose spelling is nearest, with the number that name has or else 1;
-/// empty when none is near.
-std::string NearestKey(const Reading& reading, const std::string& name) {
-  std::int32_t number = 1;
-  const std::size_t digits = name.find_first_of("0123456789");
-  if (digits != std::string::npos) ParseInt(name.substr(digits), &number);
-  std::string nearest;
-  std::size_t limit = name.size() / 4 + 2;
-  for (const KnownKey& known : reading.knownKeys) {
-    const std::string candidate = known.WithNumber(number);
-    const std::size_t distance = SpellingDistance(Folded(name), Folded(candidate));
-    if (distance >= limit) continue;
-    nearest = candidate;
-    limit = distance;
-  }
-  return nearest;
-}
-
-/// Whether keys of the number are asked for through the governor, or would be if no earlier one had
-/// stopped the reading; what is amiss is then said of that one.
-bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32_t number) {
-  const WatchedRead* count = reading.FindNumber(governor);
-  if (governor == "PrinterInkSlotNum")
-    return count != nullptr && number >= 1 && number <= count->number;
-  return reading.numbersAskedFor.count({governor, number}) != 0;
-}
-
 void CheckUnknownKey(const Check& check, const KeyLine& line) {
-  const std::string nearest = NearestKey(check.reading, line.name);
-  check.Add(line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning,
-            line.name,
-            line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
-            kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
+  const KeySuggestion meant = SuggestKey(check.reading, line.name, line.value);
+  const bool isCertain = line.hasEquals && meant.certainty == Certainty::Certain;
+  std::string remedy = "remove it";
+  if (meant.present != nullptr) {
+    remedy +=
+        ", as " + meant.present->name + " is in line " + std::to_string(meant.present->number);
+  } else if (!meant.key.empty()) {
+    remedy = "write " + meant.key;
+  }
+  Finding& finding = check.Add(
+      line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning, line.name,
+      line.hasEquals ? "nothing reads this key" : "a line without = gives no value", kNoEffect,
+      remedy);
+  finding.meant = meant.key;
+  if (isCertain) {
+    AddNameEdit(line, meant.key, Certainty::Certain, &finding);
+  } else if (!meant.key.empty()) {
+    finding.certainty = Certainty::Likely;
+  }
 }
 
 void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string& governor,
@@ -148,8 +120,10 @@ void CheckLines(const Check& check) {
     check.Add("text-behind-header", header, Severity::Warning, "[printer]",
               "text follows ] in its line", "it has no effect", "move it to a line of its own");
   }
-  for (const KeyLine& line : check.reading.lines.Keys())
-    CheckLine(check, line);
+  const std::set<std::size_t> judged = CheckNotation(check);
+  for (const KeyLine& line : check.reading.lines.Keys()) {
+    if (judged.count(line.number) == 0) CheckLine(check, line);
+  }
 }
 
 }  // namespace tavrin::tool

@@ -170,7 +170,8 @@ void ValueCheck::CheckFields() const {
   }
   for (std::size_t i = 0; i < wanted; ++i)
     CheckField(WideCopy(fields[i]), isInteger, isList ? i : kWholeValue);
-  if (fields.size() > wanted) Warn("fields-beyond", count, kRestHasNoEffect, "write those that are meant");
+  if (fields.size() > wanted)
+    Warn("fields-beyond", count, kRestHasNoEffect, "write those that are meant");
 }
 
 WantedNumber ValueCheck::Wanted(bool isInteger, bool isInList) const {

@@ -40,6 +40,7 @@ struct Finding {
   std::size_t column = 0;  ///< from 1; 0: the line as a whole
   Certainty certainty = Certainty::None;
   std::vector<Edit> edits = {};  ///< what following the remedy changes, where it is certain
+  std::string meant = {};        ///< the key that the line was to be, if it is another one
 };
 
 using Findings = std::vector<Finding>;

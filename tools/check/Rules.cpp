@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "check/Causes.h"
 #include "check/RuleList.h"
 
 namespace tavrin::tool {
@@ -58,6 +59,7 @@ Findings FindAll(const Reading& reading) {
   if (CheckMark(check)) return findings;
   for (const auto rules : {CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks})
     rules(check);
+  FoldConsequences(reading, &findings);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });
   return findings;
