@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "check/KeySuggestion.h"
+#include "check/LineEdits.h"
 #include "check/Rules.h"
 #include "keys/KeyFacts.h"
 
@@ -17,6 +17,13 @@ namespace {
 
 constexpr char kSlotCount[] = "PrinterInkSlotNum";
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+std::string Listed(const std::set<std::int32_t>& numbers) {
+  std::string listed;
+  for (const std::int32_t number : numbers)
+    listed += (listed.empty() ? "" : ", ") + std::to_string(number);
+  return Shortened(listed);
+}
 
 class Folding {
  public:
@@ -50,6 +57,10 @@ class Folding {
   void Fold(std::size_t cause, const Indices& consequences);
   std::size_t AddCause(const std::string& governor, const Indices& uncalled);
   std::set<std::int32_t> ModesLeftOut() const;
+  std::string EmptyCategories() const;
+  void FoldModeNumbers(std::size_t cause, const std::set<std::int32_t>& modes);
+  void JoinPaddedNumbers();
+  void JoinNumbersFromZero(const std::string& governor);
 
   const Reading& reading_;
   Findings& findings_;
@@ -58,7 +69,8 @@ class Folding {
 
 Folding::Subject Folding::SubjectOf(const Finding& finding) const {
   Subject subject;
-  const KnownKey* known = reading_.KnownKeyOf(finding.key, &subject.number);
+  const std::string& key = finding.meant.empty() ? finding.key : finding.meant;
+  const KnownKey* known = reading_.KnownKeyOf(key, &subject.number);
   if (known == nullptr) return subject;
   subject.shape = known->Shape();
   const char* governor = FactsOf(subject.shape).governor;
@@ -80,6 +92,7 @@ void Folding::Fold(std::size_t cause, const Indices& consequences) {
   std::size_t first = kNone;
   std::size_t last = 0;
   std::size_t lines = 0;
+  std::set<std::int32_t> slots;
   std::string sum;
   for (const std::size_t i : consequences) {
     if (i == cause || gone_[i]) continue;
@@ -92,11 +105,17 @@ void Folding::Fold(std::size_t cause, const Indices& consequences) {
       ++lines;
       continue;
     }
+    if (finding.rule == "unknown-code") {
+      slots.insert(SubjectOf(finding).number);
+      continue;
+    }
     std::string effect = finding.effect;
-    if (finding.rule == "empty-category" || finding.rule == "unknown-default-mode")
+    if (finding.rule == "unknown-default-mode" || finding.rule == "unknown-limited-mode")
       effect = finding.what;
+    if (finding.rule == "empty-category") effect = EmptyCategories();
     if (effects.insert(effect).second) sum += "; " + effect;
   }
+  if (!slots.empty()) sum += "; slots without a known ink: " + Listed(slots);
   if (lines > 0) {
     sum += lines == 1 ? "; line " + std::to_string(first) + " has no effect"
                       : "; " + std::to_string(lines) + " lines from " + std::to_string(first) +
@@ -152,9 +171,6 @@ std::size_t Folding::AddCause(const std::string& governor, const Indices& uncall
       value += std::to_string(mode) + ',';
     value.pop_back();
   }
-  std::string listed;
-  for (const std::int32_t number : numbers)
-    listed += (listed.empty() ? "" : ", ") + std::to_string(number);
   // Numbers that leave a gap are no table yet.
   const std::int32_t counted =
       line == nullptr || reading_.FindNumber(governor) == nullptr
@@ -166,9 +182,10 @@ std::size_t Folding::AddCause(const std::string& governor, const Indices& uncall
   const std::size_t at = line != nullptr ? line->number : findings_[uncalled.front()].line;
   findings_.push_back(
       {line != nullptr ? "uncounted-entries" : "count-missing", at, Severity::Warning, governor,
-       line != nullptr ? "number " + Shortened(listed) + " is left out of it"
+       line != nullptr ? "it leaves out what is numbered " + Listed(numbers)
                        : "this key is missing, though the keys that it asks for are there",
-       "", fits ? "write " + governor + '=' + value : "make it fit the numbers of those keys"});
+       line != nullptr ? "" : FactsOf(governor).Outcome(*reading_.config, 0),
+       fits ? "write " + governor + '=' + value : "make it fit the numbers of those keys"});
   findings_.back().certainty = fits ? Certainty::Likely : Certainty::None;
   gone_.push_back(false);
   return findings_.size() - 1;
@@ -190,10 +207,110 @@ void Folding::FoldIntoCount(const std::string& governor) {
   std::set<std::int32_t> numbers;
   for (const std::size_t i : uncalled)
     numbers.insert(SubjectOf(findings_[i]).number);
-  if (governor != "Mode") return;
+  if (governor == "Mode") FoldModeNumbers(cause, numbers);
+}
+
+/// What names modes that the cause keeps out.
+void Folding::FoldModeNumbers(std::size_t cause, const std::set<std::int32_t>& modes) {
+  std::set<std::string> lacks;
+  for (const std::int32_t mode : modes)
+    lacks.insert(Numbered("the printer has no mode #", mode));
+  const bool hasModes = !reading_.modes.empty();
   Fold(cause, Find([&](const Finding& finding) {
-         return finding.rule == "unknown-default-mode" &&
-                numbers.count(reading_.config->DefaultMode) != 0;
+         return ((finding.rule == "unknown-default-mode" ||
+                  finding.rule == "unknown-limited-mode") &&
+                 lacks.count(finding.what) != 0) ||
+                (!hasModes && finding.rule == "uncalled-key" && finding.key == "LimitationMode");
+       }));
+}
+
+std::string Folding::EmptyCategories() const {
+  const auto& categories = reading_.config->InkCategories;
+  const auto empty = static_cast<std::size_t>(
+      std::count_if(categories.begin(), categories.end(),
+                    [](const auto& category) { return category->slots.empty(); }));
+  return "of " + std::to_string(categories.size()) + " ink categories" + ' ' +
+         std::to_string(empty) +
+         (empty == 1 ? " has no slot, so the query for its slots fails"
+                     : " have no slot, so the queries for their slots fail");
+}
+
+/// One habit of numbering brings on a finding a line.
+void Folding::JoinPaddedNumbers() {
+  const auto withoutZeros = [](const std::string& name) {
+    std::string bare;
+    for (const char c : Folded(name)) {
+      if (c == '0' && (bare.empty() || bare.back() < '0' || bare.back() > '9')) continue;
+      bare += c;
+    }
+    return bare;
+  };
+  std::map<std::string, Indices> byGovernor;
+  for (const std::size_t i : Find([&](const Finding& finding) {
+         return finding.rule == "unknown-key" && finding.certainty == Certainty::Certain &&
+                withoutZeros(finding.key) == withoutZeros(finding.meant);
+       }))
+    byGovernor[SubjectOf(findings_[i]).governor].push_back(i);
+  for (const auto& [governor, padded] : byGovernor) {
+    std::set<std::int32_t> numbers;
+    for (const std::size_t i : padded)
+      numbers.insert(SubjectOf(findings_[i]).number);
+    const std::size_t cause = padded.front();
+    if (padded.size() > 1) {
+      Finding& finding = findings_[cause];
+      finding.rule = "padded-number";
+      finding.what = Counted(padded.size(), "key") + " to line " +
+                     std::to_string(findings_[padded.back()].line) +
+                     " have other zeros before their numbers than what is read";
+      finding.effect = "these lines have no effect";
+      finding.remedy += " and likewise the others";
+      for (const std::size_t i : padded) {
+        if (i == cause) continue;
+        finding.edits.insert(finding.edits.end(), findings_[i].edits.begin(),
+                             findings_[i].edits.end());
+        gone_[i] = true;
+      }
+    }
+    if (governor == "Mode") FoldModeNumbers(cause, numbers);
+    Fold(cause, Find([&, name = governor](const Finding& finding) {
+           return finding.rule == "entries-missing" && finding.key == name;
+         }));
+  }
+}
+
+/// Entries from 0 to one below the count are those from 1 to the count.
+void Folding::JoinNumbersFromZero(const std::string& governor) {
+  const WatchedRead* count = reading_.FindNumber(governor);
+  if (count == nullptr || count->number < 1.0) return;
+  const auto last = static_cast<std::int32_t>(count->number);
+  for (const KnownKey& known : reading_.knownKeys) {
+    const char* own = FactsOf(known.Shape()).governor;
+    if (own == nullptr || own != governor) continue;
+    if (reading_.lines.Find(known.WithNumber(0)) == nullptr ||
+        reading_.lines.Find(known.WithNumber(last)) != nullptr)
+      return;
+  }
+  Finding cause{"counted-from-zero", 0, Severity::Warning, {}, {}, {}, {}};
+  for (const KeyLine& line : reading_.lines.Keys()) {
+    std::int32_t number = 0;
+    const KnownKey* known = reading_.KnownKeyOf(line.name, &number);
+    if (known == nullptr || line.place != KeyLine::Place::Section || number >= last) continue;
+    const char* own = FactsOf(known->Shape()).governor;
+    if (own == nullptr || own != governor) continue;
+    AddNameEdit(line, known->WithNumber(number + 1), Certainty::Certain, &cause);
+    if (cause.line != 0) continue;
+    cause.line = line.number;
+    cause.key = line.name;
+    cause.remedy = "write " + known->WithNumber(number + 1) + " and likewise the others";
+  }
+  cause.column = 0;
+  cause.what = "what " + governor + " counts is numbered from 0 here, and read from 1 on";
+  findings_.push_back(cause);
+  gone_.push_back(false);
+  Fold(findings_.size() - 1, Find([&](const Finding& finding) {
+         const Subject subject = SubjectOf(finding);
+         return (subject.governor == governor && (subject.number == 0 || subject.number == last)) ||
+                (finding.rule == "entries-missing" && finding.key == governor);
        }));
 }
 
@@ -222,9 +339,7 @@ void Folding::JoinMissingModeKeys() {
       if (!missing.empty()) cause.remedy = "write them";
       if (line != kNone) cause.line = line;
     }
-    Fold(own.front(), Find([&](const Finding& finding) {
-           return finding.rule == "unknown-default-mode" && reading_.config->DefaultMode == mode;
-         }));
+    FoldModeNumbers(own.front(), {mode});
   }
 }
 
@@ -287,6 +402,9 @@ void Folding::FoldSlots() {
 
 void Folding::Run() {
   FoldIntoMeantKeys();
+  JoinPaddedNumbers();
+  for (const char* governor : {"NumOfColor", "NumOfInkType", kSlotCount})
+    JoinNumbersFromZero(governor);
   for (const char* governor : {"Mode", "NumOfColor", "NumOfInkType", kSlotCount})
     FoldIntoCount(governor);
   JoinMissingModeKeys();

@@ -104,13 +104,21 @@ bool CheckMark(const Check& check) {
   const LineIndex& lines = check.reading.lines;
   const bool loads = check.reading.loads;
   if (lines.HiddenHeaderLine() == 0) return false;
-  check.Add("hidden-section", lines.HiddenHeaderLine(), loads ? Severity::Warning : Severity::Error,
-            "[printer]",
-            lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
-                            : "a byte order mark before the section hides it",
-            loads ? "its keys are not read" : "the definition does not load",
-            lines.IsUtf16() ? "save the file as UTF-16LE with a mark or in the user's encoding"
-                            : "save the file without a mark");
+  Finding& finding =
+      check.Add("hidden-section", lines.HiddenHeaderLine(),
+                loads ? Severity::Warning : Severity::Error, "[printer]",
+                lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
+                                : "a byte order mark before the section hides it",
+                loads ? "its keys are not read" : "the definition does not load",
+                lines.IsUtf16() ? "save the file as UTF-16LE with a mark or in the user's encoding"
+                                : "save the file without a mark");
+  // Where another section is read, the two would change places.
+  finding.certainty = loads ? Certainty::Likely : Certainty::Certain;
+  if (lines.IsUtf16()) {
+    finding.certainty = Certainty::Likely;
+  } else if (!loads) {
+    finding.edits = {{0, 0, 0, ""}};
+  }
   return !loads;
 }
 

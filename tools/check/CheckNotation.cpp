@@ -138,6 +138,8 @@ bool NotationCheck::JudgeColon(const KeyLine& line) {
   std::string text = line.text.substr(value, end - value);
   if (text.size() > 1 && text.front() == '"' && text.back() == '"')
     text = text.substr(1, text.size() - 2);
+  const KeySuggestion meant = SuggestKey(check_.reading, name, text);
+  if (meant.certainty == Certainty::Certain) name = meant.key;
   if (!IsMissing(name, text)) return false;
   Finding& finding = Warn(line, "colon-for-equals", name,
                           isQuoted ? "the line is written as in JSON" : "a colon is no equals sign",
