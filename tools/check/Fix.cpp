@@ -1,6 +1,8 @@
 #include "check/Fix.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <string_view>
 
 #include "check/Rules.h"
@@ -29,36 +31,55 @@ Patch PatchOf(const Edit& edit, const LineIndex& lines) {
   return patch;
 }
 
-bool Touch(const Patch& a, const Patch& b) {
-  return a.offset <= b.offset + b.length && b.offset <= a.offset + a.length;
-}
+/// Changes that do not touch each other, by their offsets.
+class Patches {
+ public:
+  /// Takes all of them or none.
+  bool Add(const std::vector<Patch>& patches) {
+    if (!std::all_of(patches.begin(), patches.end(),
+                     [this](const Patch& patch) { return IsFree(patch); }))
+      return false;
+    for (const Patch& patch : patches)
+      byOffset_.emplace(patch.offset, patch);
+    return true;
+  }
+
+  Bytes ApplyTo(const Bytes& plain) const {
+    Bytes applied;
+    auto rest = plain.begin();
+    for (const auto& [offset, patch] : byOffset_) {
+      const auto begin = plain.begin() + static_cast<std::ptrdiff_t>(offset);
+      applied.insert(applied.end(), rest, begin);
+      applied.insert(applied.end(), patch.bytes.begin(), patch.bytes.end());
+      rest = begin + static_cast<std::ptrdiff_t>(patch.length);
+    }
+    applied.insert(applied.end(), rest, plain.end());
+    return applied;
+  }
+
+ private:
+  bool IsFree(const Patch& patch) const {
+    const auto next = byOffset_.upper_bound(patch.offset + patch.length);
+    if (next == byOffset_.begin()) return true;
+    const Patch& last = std::prev(next)->second;
+    return last.offset + last.length < patch.offset;
+  }
+
+  std::map<std::size_t, Patch> byOffset_;
+};
 
 /// Of findings that would change the same place the first is followed; the others come up again if
 /// anything is left of them.
 Bytes Follow(const Reading& reading, const Findings& findings, Findings* followed) {
-  std::vector<Patch> patches;
+  Patches patches;
   for (const Finding& finding : findings) {
     if (finding.certainty != Certainty::Certain || finding.edits.empty()) continue;
     std::vector<Patch> own;
     for (const Edit& edit : finding.edits)
       own.push_back(PatchOf(edit, reading.lines));
-    const bool isFree = std::none_of(own.begin(), own.end(), [&](const Patch& patch) {
-      return std::any_of(patches.begin(), patches.end(),
-                         [&](const Patch& other) { return Touch(patch, other); });
-    });
-    if (!isFree) continue;
-    patches.insert(patches.end(), own.begin(), own.end());
-    followed->push_back(finding);
+    if (patches.Add(own)) followed->push_back(finding);
   }
-  std::sort(patches.begin(), patches.end(),
-            [](const Patch& a, const Patch& b) { return a.offset > b.offset; });
-  Bytes plain = reading.plain;
-  for (const Patch& patch : patches) {
-    const auto begin = plain.begin() + static_cast<std::ptrdiff_t>(patch.offset);
-    const auto end = begin + static_cast<std::ptrdiff_t>(patch.length);
-    plain.insert(plain.erase(begin, end), patch.bytes.begin(), patch.bytes.end());
-  }
-  return plain;
+  return patches.ApplyTo(reading.plain);
 }
 
 std::vector<std::string> LinesOf(const Bytes& plain) {

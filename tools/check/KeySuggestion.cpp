@@ -1,7 +1,7 @@
 #include "check/KeySuggestion.h"
 
 #include <algorithm>
-#include <cctype>
+#include <array>
 #include <vector>
 
 #include "check/NumberMeaning.h"
@@ -12,6 +12,8 @@
 namespace tavrin::tool {
 
 namespace {
+
+constexpr std::size_t kLongest = 60;  // of a name to look at; no key is half that long
 
 /// A name without what authors put between words, and its number without the zeros in front.
 std::string Bare(const std::string& name) {
@@ -30,19 +32,20 @@ std::string Bare(const std::string& name) {
 /// How many letters have to be put in, taken out, replaced or swapped with the next one to make one
 /// text of the other.
 std::size_t SlipsBetween(const std::string& a, const std::string& b) {
-  std::vector<std::vector<std::size_t>> rows(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
+  std::array<std::array<std::size_t, kLongest + 1>, 3> rows;
   for (std::size_t i = 0; i <= a.size(); ++i) {
+    auto& row = rows[i % 3];
+    const auto& last = rows[(i + 2) % 3];
     for (std::size_t j = 0; j <= b.size(); ++j) {
-      std::size_t& slips = rows[i][j];
-      slips = std::max(i, j);
+      row[j] = std::max(i, j);
       if (i == 0 || j == 0) continue;
-      slips = std::min({rows[i - 1][j] + 1, rows[i][j - 1] + 1,
-                        rows[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1)});
+      row[j] =
+          std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1)});
       if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
-        slips = std::min(slips, rows[i - 2][j - 2] + 1);
+        row[j] = std::min(row[j], rows[(i + 1) % 3][j - 2] + 1);
     }
   }
-  return rows[a.size()][b.size()];
+  return rows[a.size() % 3][b.size()];
 }
 
 /// Whether one name goes on where the other ends.
@@ -63,6 +66,11 @@ bool SharesFirstWord(const std::string& name, const KnownKey& known, const std::
          Folded(name.substr(0, length)) == Folded(candidate.substr(0, length));
 }
 
+/// How many slips are too many.
+std::size_t LimitFor(const std::string& name) {
+  return name.size() / 4 + 2;
+}
+
 struct Candidate {
   std::string key;
   std::size_t slips;
@@ -81,11 +89,17 @@ std::vector<Candidate> CandidatesFor(const Reading& reading, const std::string& 
   std::vector<Candidate> candidates;
   for (const KnownKey& known : reading.knownKeys) {
     const std::string key = known.WithNumber(number);
-    const char* governor = FactsOf(known.Shape()).governor;
     const std::string bareKey = Bare(key);
-    candidates.push_back({key, SlipsBetween(bare, bareKey), reading.lines.Find(key) == nullptr,
-                          governor == nullptr || IsCalledFor(reading, governor, number),
-                          Extends(bare, bareKey) || SharesFirstWord(name, known, key)});
+    if (bareKey.size() > kLongest) continue;
+    const bool isKin = Extends(bare, bareKey) || SharesFirstWord(name, known, key);
+    const std::size_t apart =
+        std::max(bare.size(), bareKey.size()) - std::min(bare.size(), bareKey.size());
+    if (!isKin && apart >= LimitFor(name)) continue;
+    const std::size_t slips = SlipsBetween(bare, bareKey);
+    if (!isKin && slips >= LimitFor(name)) continue;
+    const char* governor = FactsOf(known.Shape()).governor;
+    candidates.push_back({key, slips, reading.lines.Find(key) == nullptr,
+                          governor == nullptr || IsCalledFor(reading, governor, number), isKin});
   }
   std::stable_sort(candidates.begin(), candidates.end(),
                    [](const Candidate& a, const Candidate& b) { return a.slips < b.slips; });
@@ -117,9 +131,9 @@ bool Takes(const Reading& reading, const std::string& key, const std::string& va
 
 KeySuggestion SuggestKey(const Reading& reading, const std::string& name,
                          const std::string& value) {
-  constexpr std::size_t kLongest = 60;  // no key is half that long
   if (name.empty() || name.size() > kLongest) return {};
   const std::vector<Candidate> candidates = CandidatesFor(reading, name);
+  if (candidates.empty()) return {};
   const Candidate& nearest = candidates.front();
   const auto isSlip = [](const Candidate& candidate) {
     return candidate.slips <= (candidate.key.size() >= 10  ? 2u
@@ -131,11 +145,10 @@ KeySuggestion SuggestKey(const Reading& reading, const std::string& name,
   const bool isAlone = candidates.size() < 2 || candidates[1].slips > nearest.slips;
   if (isSlip(nearest) && isAlone && nearest.isCalledFor && Takes(reading, nearest.key, value))
     return {nearest.key, Certainty::Certain};
-  const std::size_t limit = name.size() / 4 + 2;
   for (const bool byKinship : {false, true}) {
     for (const Candidate& candidate : candidates) {
       const bool isNear =
-          byKinship ? candidate.isKin && candidate.isCalledFor : candidate.slips < limit;
+          byKinship ? candidate.isKin && candidate.isCalledFor : candidate.slips < LimitFor(name);
       if (isNear && candidate.isAbsent && Takes(reading, candidate.key, value))
         return {candidate.key, Certainty::Likely};
     }

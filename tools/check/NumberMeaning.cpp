@@ -98,7 +98,12 @@ class Field {
   Meaning AsFraction();
   Meaning AsPieces();
   Meaning AsCommented();
-  bool Matches(const char* pattern) { return std::regex_match(text_, match_, std::regex(pattern)); }
+  /// Patterns are compiled once.
+  bool Matches(const char* pattern) {
+    static std::map<std::string, std::regex> compiled;
+    const auto found = compiled.try_emplace(pattern, pattern).first;
+    return std::regex_match(text_, match_, found->second);
+  }
   Meaning Mean(const char* rule, const std::string& what, const std::string& number,
                Certainty certainty) const {
     return NumberMeaning{rule, quoted_ + ' ' + what, number,
@@ -266,10 +271,14 @@ bool AreNumbers(const std::vector<std::string>& fields, std::size_t count, bool 
 }  // namespace
 
 Meaning MeaningOf(const std::wstring& field, const WantedNumber& wanted) {
+  constexpr std::size_t kLongest = 64;  // patterns recurse, and no number is that long
+  if (field.size() > kLongest) return std::nullopt;
   return Field(field, wanted).Read();
 }
 
 Meaning MeaningOfList(const std::wstring& list, std::size_t count, bool ofIntegers) {
+  constexpr std::size_t kLongest = 520;  // patterns recurse
+  if (list.size() > kLongest) return std::nullopt;
   const std::string quoted = Quoted(NarrowCopy(list));
   const std::string text = InAscii(list);
   std::vector<std::string> fields = Fields(text);
