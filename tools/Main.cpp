@@ -8,6 +8,7 @@
 #include "TavrinVersion.h"
 #include "commands/CheckCommand.h"
 #include "commands/CipherCommands.h"
+#include "commands/KeysCommand.h"
 #include "commands/ShowCommand.h"
 #include "commands/TemplateCommand.h"
 
@@ -99,6 +100,7 @@ int Run(int argc, char** argv) {
   AddTemplate(&app);
   int status = 0;
   tavrin::tool::AddCheck(&app, &status);
+  tavrin::tool::AddKeys(&app, &status);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

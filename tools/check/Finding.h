@@ -20,7 +20,7 @@ enum class Certainty {
 };
 
 /// A change of one line: count characters from column on, both as the index has the line, become
-/// text, which is ASCII and ends no line.
+/// text, which is ASCII; of it a line feed is the end that the file's lines have.
 struct Edit {
   std::size_t line;    ///< from 1; 0: the byte order mark, which goes
   std::size_t column;  ///< from 0

@@ -19,11 +19,22 @@ struct Patch {
   Bytes bytes;
 };
 
-Patch PatchOf(const Edit& edit, const LineIndex& lines) {
+/// How the first line ends.
+std::string LineEndOf(const Reading& reading) {
+  const std::string text = TextOf(reading.plain, reading.lines.Format());
+  const std::size_t end = text.find_first_of("\r\n");
+  if (end == std::string::npos) return "\n";
+  return text.compare(end, 2, "\r\n") == 0 ? "\r\n" : text.substr(end, 1);
+}
+
+Patch PatchOf(const Edit& edit, const LineIndex& lines, const std::string& lineEnd) {
   const TextFormat& format = lines.Format();
   if (edit.line == 0) return {0, format.markLength, {}};
   Patch patch{lines.OffsetOf(edit.line, edit.column), edit.count * format.unitLength, {}};
-  for (const char c : edit.text) {
+  std::string text;
+  for (const char c : edit.text)
+    text += c == '\n' ? lineEnd : std::string(1, c);
+  for (const char c : text) {
     patch.bytes.resize(patch.bytes.size() + format.unitLength);
     patch.bytes[patch.bytes.size() - format.unitLength + format.lowByte] =
         static_cast<unsigned char>(c);
@@ -72,11 +83,12 @@ class Patches {
 /// anything is left of them.
 Bytes Follow(const Reading& reading, const Findings& findings, Findings* followed) {
   Patches patches;
+  const std::string lineEnd = LineEndOf(reading);
   for (const Finding& finding : findings) {
     if (finding.certainty != Certainty::Certain || finding.edits.empty()) continue;
     std::vector<Patch> own;
     for (const Edit& edit : finding.edits)
-      own.push_back(PatchOf(edit, reading.lines));
+      own.push_back(PatchOf(edit, reading.lines, lineEnd));
     if (patches.Add(own)) followed->push_back(finding);
   }
   return patches.ApplyTo(reading.plain);
@@ -120,16 +132,29 @@ std::string DifferenceOf(const std::string& file, const Bytes& before, const Byt
       taken += sign + Printable(lines[i]) + '\n';
     return taken;
   };
-  const std::size_t count = std::min(old.size(), now.size());
-  for (std::size_t begin = 0; begin < count; ++begin) {
+  const auto add = [&](std::size_t begin, std::size_t oldEnd, std::size_t nowEnd) {
+    const auto range = [begin](std::size_t end) {
+      return std::to_string(end == begin ? begin : begin + 1) + ',' + std::to_string(end - begin);
+    };
+    difference += "@@ -" + range(oldEnd) + " +" + range(nowEnd) + " @@\n";
+    difference += take(old, begin, oldEnd, '-') + take(now, begin, nowEnd, '+');
+  };
+  if (old.size() != now.size()) {
+    // A line that was put in moves those after it; then all from the first change to the last.
+    const auto begin =
+        std::mismatch(old.begin(), old.end(), now.begin(), now.end()).first - old.begin();
+    const auto last =
+        std::mismatch(old.rbegin(), old.rend() - begin, now.rbegin(), now.rend() - begin);
+    add(static_cast<std::size_t>(begin), static_cast<std::size_t>(old.rend() - last.first),
+        static_cast<std::size_t>(now.rend() - last.second));
+    return difference;
+  }
+  for (std::size_t begin = 0; begin < old.size(); ++begin) {
     std::size_t end = begin;
-    while (end < count && old[end] != now[end])
+    while (end < old.size() && old[end] != now[end])
       ++end;
     if (end == begin) continue;
-    const std::string range =
-        std::to_string(begin + 1) + (end - begin == 1 ? "" : ',' + std::to_string(end - begin));
-    difference += "@@ -" + range + " +" + range + " @@\n";
-    difference += take(old, begin, end, '-') + take(now, begin, end, '+');
+    add(begin, end, end);
     begin = end;
   }
   return difference;

@@ -18,7 +18,7 @@ struct Fix {
 /// Every byte that no remedy names stays.
 Fix FollowCertainRemedies(const Reading& reading);
 
-/// The lines in which two definitions of as many lines differ, as a unified diff without context;
+/// The lines in which two definitions differ, as a unified diff without context;
 /// empty when none does.
 std::string DifferenceOf(const std::string& file, const Bytes& before, const Bytes& after);
 

@@ -57,7 +57,8 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules : {CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks})
+  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
+                           CheckModes, CheckInks, CheckRanges, CheckWhole})
     rules(check);
   FoldConsequences(reading, &findings);
   std::stable_sort(findings.begin(), findings.end(),

@@ -47,8 +47,12 @@ bool CheckMark(const Check& check);
 ///
 /// @return the lines of which there is nothing more to say.
 std::set<std::size_t> CheckNotation(const Check& check);
-/// Sections, and lines that nothing reads.
+/// The section, and what stands outside it.
+void CheckSections(const Check& check);
+/// Lines that nothing reads.
 void CheckLines(const Check& check);
+/// Texts as they are written: comments, quotes, addresses, encodings.
+void CheckTexts(const Check& check);
 /// Each read by itself: whether it found a value, and what came of it.
 void CheckValues(const Check& check);
 /// Identity and switches.
@@ -56,5 +60,10 @@ void CheckPrinter(const Check& check);
 void CheckModes(const Check& check);
 /// Colours, ink types, slots and categories.
 void CheckInks(const Check& check);
+/// Numbers that are out of range, that no printer can use or that lose digits, as far as the rules
+/// before it have said nothing of them.
+void CheckRanges(const Check& check);
+/// Whether the file is whole. It comes last, as what is missing for that reason is no mistake.
+void CheckWhole(const Check& check);
 
 }  // namespace tavrin::tool

@@ -8,6 +8,7 @@
 
 #include "Failure.h"
 #include "check/DefinitionReading.h"
+#include "check/FindingLimit.h"
 #include "check/FindingsOutput.h"
 #include "check/Rules.h"
 #include "commands/FixCommand.h"
@@ -55,8 +56,7 @@ int CheckFiles(const CheckOptions& options) {
   int status = 0;
   for (const std::string& file : options.files) {
     try {
-      for (const Finding& finding : CheckFile(file, options)) {
-        if (finding.severity < threshold) continue;
+      for (const Finding& finding : LimitFindings(CheckFile(file, options), threshold)) {
         status = std::max(status, static_cast<int>(finding.severity));
         if (asJson) objects.push_back(ToJson(file, finding));
         if (!asJson && !options.quiet && !options.diff)

@@ -1,11 +1,12 @@
 #include "commands/TemplateCommand.h"
 
 #include "files/FileTransfer.h"
+#include "keys/Template.h"
 
 namespace tavrin::tool {
 
 void PrintTemplate() {
-  PrintText(R"INI(@template@)INI");
+  PrintText(MakeTemplate());
 }
 
 }  // namespace tavrin::tool
