@@ -143,7 +143,7 @@ ExitStatus PrintKeys(const KeysOptions& options) {
     nlohmann::ordered_json objects = nlohmann::ordered_json::array();
     for (const KeyFacts* facts : keys)
       objects.push_back(AsJson(*facts));
-    PrintText(nlohmann::ordered_json{{"schema", 1}, {"keys", objects}}.dump(2) + '\n');
+    PrintText(nlohmann::ordered_json{{"schemaVersion", 1}, {"keys", objects}}.dump(2) + '\n');
   } else {
     PrintText(!options.key ? Overview(keys) : Description(*keys.front()));
   }
