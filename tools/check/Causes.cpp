@@ -335,8 +335,10 @@ void Folding::JoinMissingModeKeys() {
           missing += " and " + key;
         }
       }
-      if (!missing.empty()) cause.what = "Mode asks for this key" + missing + ", which are missing";
-      if (!missing.empty()) cause.remedy = "write them";
+      if (!missing.empty()) {
+        cause.what = "Mode asks for this key" + missing + ", which are missing";
+        cause.remedy = "write them";
+      }
       if (line != kNone) cause.line = line;
     }
     FoldModeNumbers(own.front(), {mode});
