@@ -49,7 +49,7 @@ def make(tmp_path):
         ini, definition = tmp_path / "plain.ini", tmp_path / file
         ini.write_bytes(DEFINITIONS[name])
         definition.parent.mkdir(exist_ok=True)
-        subprocess.run([TOOL, "encipher", ini, definition], check=True)
+        subprocess.run([TOOL, "encipher", "--force", ini, definition], check=True)
         return definition
 
     return make
@@ -203,5 +203,5 @@ def test_refuses_what_is_not_the_library(make, tmp_path, contents, message):
     elif contents:
         library.write_bytes(contents)
     printed = python("-m", "tavrinlib", str(make("minimal")), TAVRINLIB_LIBRARY=str(library))
-    assert (printed.returncode, printed.stdout) == (1, "")
+    assert (printed.returncode, printed.stdout) == (2, "")
     assert printed.stderr.startswith("tavrinlib: ") and message in printed.stderr

@@ -86,7 +86,8 @@ def facts(printer: Session) -> dict[str, Any]:
 
 
 def main() -> int:
-    """The exit status: 0, or 1 where the definition does not load or a text is too long."""
+    """The exit status, as the tool's: 2 where the definition does not load or a text is too long,
+    3 where the file cannot be read."""
     parser = argparse.ArgumentParser("python3 -m tavrinlib", description=__doc__)
     parser.add_argument("definition", help="the printer definition file")
     arguments = parser.parse_args()
@@ -96,10 +97,10 @@ def main() -> int:
         print(json.dumps(answers, indent=2), flush=True)
     except (OSError, TavrinError) as error:
         print(f"tavrinlib: {error}", file=sys.stderr)
-        return 1
+        return 3 if isinstance(error, OSError) or getattr(error, "unreadable", False) else 2
     if answers["identity"]["networkAddress"] is None:
         print("tavrinlib: a text of the identity is longer than 128 bytes", file=sys.stderr)
-        return 1
+        return 2
     return 0
 
 

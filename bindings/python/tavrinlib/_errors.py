@@ -38,6 +38,9 @@ class LibraryError(TavrinError):
 class LoadError(TavrinError):
     """The definition file does not load. No session is open then."""
 
+    #: Whether the file itself is missing, empty or cannot be read.
+    unreadable: bool = False
+
 
 class NotOpenError(TavrinError):
     """The session was closed, or another one has taken its place."""

@@ -44,13 +44,16 @@ def _load_failure(path: Path, code: int) -> LoadError:
         "is no enciphered printer definition with a Version, or its plain copy cannot be written "
         "to the temporary directory"
     )
+    unreadable = False
     try:
         with open(path, "rb") as file:
             if not file.read(1):
-                reason = "is empty"
+                reason, unreadable = "is empty", True
     except OSError as error:
-        reason = error.strerror or str(error)
-    return LoadError(f"{os.fsdecode(path)}: {reason}", ErrorCode(code))
+        reason, unreadable = error.strerror or str(error), True
+    result = LoadError(f"{os.fsdecode(path)}: {reason}", ErrorCode(code))
+    result.unreadable = unreadable
+    return result
 
 
 class Session:
