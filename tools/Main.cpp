@@ -8,6 +8,7 @@
 #include "commands/CommandLine.h"
 #include "commands/DecipherCommand.h"
 #include "commands/EncipherCommand.h"
+#include "commands/KeysCommand.h"
 #include "commands/ShowCommand.h"
 #include "commands/TemplateCommand.h"
 
@@ -32,6 +33,7 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddEncipher(&app);
   tavrin::tool::AddDecipher(&app);
   tavrin::tool::AddShow(&app);
+  tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);
   try {

@@ -53,7 +53,7 @@ std::string DefinitionGenerator::Integer() {
     case 0:
       return OneOf(
           "0|-1|+7|007|2147483647|2147483648|-2147483648|-2147483649|99999999999999999999|0x10|"
-          "12abc|abc||-|4.9|1e3|--1|+-1|1 2|\262|\2405| \2406|\3777|8\240");
+          "12abc|abc||-|4.9|1e3|--1|+-1|1 2|\262|\2405| \2406|\3777|8\240|\3042|4\304");
     case 1:
       return std::to_string(static_cast<std::int32_t>(random_()));
     default:
@@ -249,12 +249,10 @@ void DefinitionGenerator::InkSlots() {
 
 std::string DefinitionGenerator::Encoded() {
   if (!OneIn(6)) return text_;
-  // Two that lie outside Latin-1, two that no narrow text holds, and a blank of Windows.
-  static const std::map<char, std::u16string> kUnits = {{'\200', u"\u20AC"},
-                                                        {'\231', u"\u2122"},
-                                                        {'\327', u"\u2603"},
-                                                        {'\351', u"\U0001F600"},
-                                                        {'\377', u"\u3000"}};
+  // Two that lie outside Latin-1, two that no narrow text holds, a blank of Windows, a digit.
+  static const std::map<char, std::u16string> kUnits = {
+      {'\200', u"\u20AC"},     {'\231', u"\u2122"}, {'\327', u"\u2603"},
+      {'\351', u"\U0001F600"}, {'\377', u"\u3000"}, {'\304', u"\uFF14"}};
   std::string encoded = "\xFF\xFE";
   for (const char c : text_) {
     const auto found = kUnits.find(c);

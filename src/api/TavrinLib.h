@@ -82,6 +82,9 @@ enum TavrinErrorCode {
 /// the definition at path. On Windows, where this holds within one session and unless the copy's
 /// place is taken by what cannot be removed, the call waits for them, for ten seconds at the most.
 ///
+/// On Linux the call waits for a process that holds a lease on the definition file, as file servers
+/// do, to give it up.
+///
 /// Keys that are missing or cannot be read take their defaults silently; only "Version" must be
 /// there.
 ///

@@ -14,11 +14,14 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <locale.h>
 
 #include "InkSlot.h"
 #include "TavrinLib.h"
@@ -100,7 +103,8 @@ struct PrintMode {
   std::int32_t firstValue = 0;   ///< first value of the mode's pair
   std::int32_t secondValue = 0;  ///< second value of the mode's pair
   bool limited = false;          ///< whether the host warns of warping before the mode runs
-  /// How many slices fit the build volume; none where the definition gives no number to divide by.
+  /// How many slices fit the build volume; none where the definition gives no number to divide by,
+  /// and from 2 km of slices of 1 µm on.
   std::optional<std::int32_t> sliceCount;
   /// How long the mode may run on as a limited one; none where the definition gives no limit.
   std::optional<std::int32_t> limitedContinuous;
@@ -125,13 +129,19 @@ using Category = std::vector<std::uint32_t>;
 /// ends the one before, also where the new definition then fails to load: the ended session
 /// answers every question with ErrorNotInitialized and leaves the definition alone when it goes.
 /// `session = Session(path)` thus changes the definition. Like the exports it is for one thread
-/// at a time. Sessions of different DLLs, or of shared libraries built with hidden visibility, do
-/// not know of each other.
+/// at a time.
+///
+/// Which session is the open one stands in an inline variable. Sessions of different modules of a
+/// process (the program, its DLLs or shared libraries) know of each other only where the modules
+/// share it, which those on Windows and those of hidden visibility do not: there a session answers
+/// from the definition that the other module has loaded, and releases that one when it goes.
 class Session {
  public:
   /// Loads the enciphered printer definition file at path, which is in the encoding that
-  /// TavrinLib.h names.
+  /// TavrinLib.h names. Meanwhile numbers are those of the "C" locale on the calling thread, so
+  /// that a decimal comma of the host's does no harm.
   explicit Session(const std::string& path) : number_(++Newest()) {
+    const CNumericLocale scope;
     Ask("TavrinInitialize", TavrinInitialize, path.c_str());
   }
   /// Releases the definition, if the session is still the open one.
@@ -251,6 +261,49 @@ class Session {
  private:
   static constexpr std::uint64_t kEnded = 0;
 
+  /// The numbers of the "C" locale, for a scope and the calling thread. On Windows it is the
+  /// runtime of the host whose locale this is about, and the process's locale where threads have
+  /// none.
+  class CNumericLocale {
+   public:
+#if defined(_WIN32)
+    CNumericLocale()
+        : threads_(_configthreadlocale(_ENABLE_PER_THREAD_LOCALE)),
+          previous_(setlocale(LC_NUMERIC, nullptr)) {
+      setlocale(LC_NUMERIC, "C");
+    }
+    ~CNumericLocale() {
+      setlocale(LC_NUMERIC, previous_.c_str());
+      if (threads_ != -1) _configthreadlocale(threads_);
+    }
+#else
+    CNumericLocale() {
+      const locale_t copy = duplocale(uselocale(nullptr));
+      own_ = copy == nullptr ? nullptr : newlocale(LC_NUMERIC_MASK, "C", copy);
+      if (own_ == nullptr) {
+        if (copy != nullptr) freelocale(copy);
+        throw std::bad_alloc();
+      }
+      previous_ = uselocale(own_);
+    }
+    ~CNumericLocale() {
+      uselocale(previous_);
+      freelocale(own_);
+    }
+#endif
+    CNumericLocale(const CNumericLocale&) = delete;
+    CNumericLocale& operator=(const CNumericLocale&) = delete;
+
+   private:
+#if defined(_WIN32)
+    int threads_;
+    std::string previous_;
+#else
+    locale_t own_;
+    locale_t previous_;
+#endif
+  };
+
   /// The number of the session made last: the one that the loaded definition belongs to.
   static std::uint64_t& Newest() {
     static std::uint64_t newest = kEnded;
@@ -282,8 +335,12 @@ class Session {
     return value;
   }
 
-  static std::int32_t Signed(std::uint32_t value) { return static_cast<std::int32_t>(value); }
-  static Micrometres Length(std::uint32_t value) { return {Signed(value)}; }
+  static std::int32_t Signed(std::uint32_t value) {
+    return static_cast<std::int32_t>(value);
+  }
+  static Micrometres Length(std::uint32_t value) {
+    return {Signed(value)};
+  }
 
   /// A text of 128 bytes has no NUL behind it.
   static std::string Field(const char* field) {

@@ -41,8 +41,7 @@ class PrinterConfig : public InkModel {
   /// Parse on an opened file.
   bool ParseOpened(IniFile& ini);
 
-  /// The slices of mode in the build height; INT32_MIN, to which no finite number truncates, where
-  /// they have no height.
+  /// The slices of mode in the build height; INT32_MIN where they have no height.
   std::int32_t LayerCount(const ModeConfig& mode) const;
 
   /// The thickness in µm of the support beside a model of the given height in µm: 0 for a height

@@ -1,23 +1,25 @@
 #include "definition/TemporaryPath.h"
 
-#include <new>
-
 #include "definition/TextConversion.h"
-#include "definition/WideText.h"
 #include "platform/HostPaths.h"
 
 namespace tavrin {
 
 namespace {
 
-/// The text after the last separator, without the last dot and what follows it. Looked for in wide
-/// text, as in double-byte encodings a second byte may look like a separator.
+/// The text after the last separator, without the last dot and what follows it.
+std::string CutToStem(const std::string& path) {
+  const std::string name = path.substr(path.find_last_of("\\/") + 1);
+  return name.substr(0, name.rfind('.'));
+}
+
+/// The same, looked for in wide text, as in double-byte encodings a second byte may look like a
+/// separator; in the bytes of what is no text in the user's encoding.
 std::string StemOf(const std::string& path) {
-  const std::wstring wide = WideText(path).c_str();
+  const std::wstring wide = WideCopy(path);
+  if (NarrowCopy(wide) != path) return CutToStem(path);
   const std::wstring name = wide.substr(wide.find_last_of(L"\\/") + 1);
-  std::string stem;
-  if (!ToNarrow(name.substr(0, name.rfind(L'.')), &stem)) throw std::bad_alloc();
-  return stem;
+  return NarrowCopy(name.substr(0, name.rfind(L'.')));
 }
 
 }  // namespace

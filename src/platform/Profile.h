@@ -45,7 +45,8 @@ class ProfileReader {
 ///
 /// REQUIRES: section, key and path are not null.
 ///
-/// @return false when the file could not be written.
+/// @return false when the file could not be written; a lease that another process has on it is not
+///         waited for.
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,
                        const wchar_t* path);
 

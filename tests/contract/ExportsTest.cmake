@@ -1,6 +1,6 @@
-# Holds the list of exports against the built library, the header and the program that refers to
-# every export: cmake -DFORMAT=elf|pe -DLIBRARY=... -DPROGRAM=... -DSOURCES=... -DNM=...
-# -DOBJDUMP=... -P ExportsTest.cmake
+# Holds the list of exports against the built library, the header, the document for bindings and the
+# program that refers to every export: cmake -DFORMAT=elf|pe -DLIBRARY=... -DPROGRAM=... -DSOURCES=... -DDOCUMENT=...
+# -DNM=... -DOBJDUMP=... -P ExportsTest.cmake
 cmake_minimum_required(VERSION 3.22)
 include(${CMAKE_CURRENT_LIST_DIR}/Expect.cmake)
 
@@ -22,6 +22,11 @@ endforeach()
 file(READ ${SOURCES}/api/TavrinLib.h header)
 names(declared "${header}" "\nTAVRIN_API [a-z0-9_]+ [A-Za-z0-9_]+" ".* ")
 expect_same("Declared in TavrinLib.h" "${function}" "${declared}")
+
+file(READ ${DOCUMENT} document)
+string(REPLACE "[" "(" document "${document}")
+names(documented "${document}" "\n. `Tavrin[A-Za-z]+` [|]" "[\n|` ]+")
+expect_same("In the table of ${DOCUMENT}" "${function}" "${documented}")
 
 file(READ ${SOURCES}/api/exports.map map)
 names(mapped "${map}" "\n +Tavrin[^;]*;" "[\n ;]")

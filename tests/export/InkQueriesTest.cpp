@@ -1,5 +1,4 @@
-#include <functional>
-#include <vector>
+#include <memory>
 
 #include "InkSlot.h"
 #include "export/ExportTest.h"
@@ -10,16 +9,6 @@ namespace {
 
 class InkQueries : public ExportTest {};
 
-using Numbers = std::vector<std::int32_t>;
-
-Numbers SlotsOfCategory(std::int32_t index) {
-  std::int32_t* numbers = nullptr;
-  std::int32_t count = -1;
-  if (!TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) return {};
-  const Owned<std::int32_t> owned(numbers);
-  return Numbers(numbers, numbers + count);
-}
-
 /// What a text operation of a slot hands out; the array must be as long as it says.
 std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
   char* text = nullptr;
@@ -29,54 +18,6 @@ std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_
   const Owned<char> owned(text);
   EXPECT_EQ(text[size - 1], '\0');
   return std::string(text, static_cast<std::size_t>(size - 1));
-}
-
-TEST_F(InkQueries, WithoutADefinitionEachFails) {
-  std::uint32_t count = 7;
-  std::int32_t signedCount = 7;
-  std::int32_t* numbers = &signedCount;
-  InkSlot* slot = nullptr;
-  const std::function<bool()> queries[] = {
-      [&] { return TavrinGetItemCountOfInkCategory(&count); },
-      [&] { return TavrinGetInkSlotNumConposeInkCategory(0, &numbers, &signedCount); },
-      [&] { return TavrinGetItemCountOfInkSlot(&count); },
-      [&] { return TavrinGetInkSlot(1, &slot); },
-      [&] { return TavrinGetInkSlot(1, nullptr); },
-  };
-  for (const auto& query : queries) {
-    SetLastErrorAside();
-    EXPECT_FALSE(query());
-    EXPECT_EQ(LastError(), ErrorNotInitialized);
-  }
-  EXPECT_EQ(count, 7u);
-  EXPECT_EQ(signedCount, 7);
-  EXPECT_EQ(numbers, &signedCount);
-}
-
-TEST_F(InkQueries, TheBuiltInSlotsMakeSixCategories) {
-  ASSERT_TRUE(InitializeDefinition(""));
-  std::uint32_t count = 0;
-  EXPECT_TRUE(TavrinGetItemCountOfInkSlot(&count));
-  EXPECT_EQ(count, 8u);
-  EXPECT_TRUE(TavrinGetItemCountOfInkCategory(&count));
-  EXPECT_EQ(count, 6u);
-  const Numbers expected[] = {
-      {1, 2}, {3}, {4}, {5, 6, 7, 8}, {3, 4, 5, 6, 7, 8}, {1, 2, 3, 4, 5, 6, 7, 8}};
-  for (std::int32_t i = 0; i < 6; ++i)
-    EXPECT_EQ(SlotsOfCategory(i), expected[i]) << i;
-}
-
-TEST_F(InkQueries, ACategoryThatCannotListItsSlotsIsAFailure) {
-  // Without a white ink the third built-in category is empty.
-  ASSERT_TRUE(InitializeDefinition("NumOfColor=1\nColor001Code=1\nColor001Name=Cyan\n"));
-  for (const std::int32_t index : {-2147483647 - 1, -1, 2, 6, 2147483647}) {
-    SetLastErrorAside();
-    std::int32_t* numbers = nullptr;
-    std::int32_t count = 7;
-    EXPECT_FALSE(TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count)) << index;
-    EXPECT_EQ(LastError(), ErrorFailed) << index;
-    EXPECT_EQ(count, 7) << index;
-  }
 }
 
 TEST_F(InkQueries, ASlotAnswersThroughItsVirtualTable) {
@@ -106,21 +47,6 @@ TEST_F(InkQueries, ASlotAnswersThroughItsVirtualTable) {
     EXPECT_FALSE(slot->GetInkName(nullptr, &size));
     EXPECT_EQ(size, 7);
   }
-}
-
-TEST_F(InkQueries, AnUnknownSlotNumberGivesNullAndRecordsNothing) {
-  ASSERT_TRUE(InitializeDefinition(""));
-  SetLastErrorAside();
-  InkSlot* first = nullptr;
-  ASSERT_TRUE(TavrinGetInkSlot(1, &first));
-  for (const std::uint32_t number : {0u, 9u, 4294967295u}) {
-    InkSlot* slot = first;
-    EXPECT_FALSE(TavrinGetInkSlot(number, &slot)) << number;
-    EXPECT_EQ(slot, nullptr) << number;
-  }
-  EXPECT_EQ(LastError(), ErrorInvalidArgument);
-  EXPECT_FALSE(TavrinGetInkSlot(1, nullptr));
-  EXPECT_EQ(LastError(), ErrorNotInitialized);
 }
 
 }  // namespace

@@ -1,3 +1,6 @@
+#include <clocale>
+#include <string>
+
 #include <gmock/gmock.h>
 
 #include "TavrinSession.h"
@@ -146,6 +149,18 @@ TEST_F(SessionTest, TheNewestSessionHasTheDefinition) {
   const Session last = Load("");
   EXPECT_THROW(Session(folder.PathOf("missing.dat")), Error);
   EXPECT_EQ(Thrown([&] { margin(last); }), ended);
+}
+
+using DecimalCommaSessionTest = SessionTest;
+
+TEST_F(DecimalCommaSessionTest, ReadsPointsAndLeavesTheHostItsComma) {
+  ASSERT_TRUE(std::setlocale(LC_NUMERIC, "de_DE.CP1252") || std::setlocale(LC_NUMERIC, "German"));
+  const std::string chosen = std::setlocale(LC_NUMERIC, nullptr);
+  EXPECT_EQ(Load("HeadBandSize=53.5\n").HeadBandSize().count, 53.5);
+  EXPECT_THROW(Session("missing"), Error);
+  EXPECT_EQ(std::setlocale(LC_NUMERIC, nullptr), chosen);
+  EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+  std::setlocale(LC_NUMERIC, "C");
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "support/Answers.h"
 
+#include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 #include "InkSlot.h"
@@ -36,12 +38,13 @@ class Answers {
     std::uint32_t code = kUntouched;
     if (!result && TavrinGetLastError(&code)) text_ += " error " + std::to_string(code);
     text_ += '\n';
+    TavrinInitialize(nullptr);  // its code shows where the next failure records none
   }
 
   /// Asks for a value of a type that the query sets in full or not at all.
   template <typename Value>
   void AddQuery(const char* name, bool (*query)(Value*)) {
-    Value value{};
+    auto value = static_cast<Value>(1);
     const bool result = query(&value);
     Add(name, result, value);
   }
@@ -51,9 +54,8 @@ class Answers {
  private:
   static std::string Spelled(const std::string& text) { return text; }
   static std::string Spelled(double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    return std::to_string(bits);
+    char text[64];
+    return {text, std::to_chars(text, std::end(text), value).ptr};
   }
   template <typename Integer>
   static std::string Spelled(Integer value) {
@@ -72,7 +74,7 @@ void AskIdentity(Answers* answers) {
 }
 
 void AskScalars(Answers* answers) {
-  std::uint32_t x = 0, y = 0, z = 0;
+  std::uint32_t x = 7, y = 7, z = 7;
   const bool result = TavrinGetAreaSize(&x, &y, &z);
   answers->Add("AreaSize", result, x, y, z);
   answers->AddQuery("AreaMarginSize", TavrinGetAreaMarginSize);
@@ -99,7 +101,7 @@ void AskMode(Answers* answers, std::int32_t index) {
   const bool known = TavrinGetModeConfig(index, config);
   answers->Add("ModeConfig " + std::to_string(index), known, config[0], config[1], config[2],
                config[3], config[4], config[5]);
-  bool limited = false;
+  bool limited = true;
   const bool warned = TavrinGetWarpWarning(index, &limited);
   answers->Add("WarpWarning " + std::to_string(index), warned, limited);
 }
@@ -116,17 +118,17 @@ void AskModes(Answers* answers) {
 
 void AskCategory(Answers* answers, std::int32_t index) {
   std::int32_t* numbers = nullptr;
-  std::int32_t count = 0;
+  std::int32_t count = 7;
   const bool known = TavrinGetInkSlotNumConposeInkCategory(index, &numbers, &count);
   const Owned<std::int32_t> owned(numbers);
   std::string list;
-  for (std::int32_t i = 0; i < count; ++i)
+  for (std::int32_t i = 0; known && i < count; ++i)
     list += std::to_string(numbers[i]) + ',';
   answers->Add("Category " + std::to_string(index), known, count, list);
 }
 
 void AskCategories(Answers* answers) {
-  std::uint32_t count = 0;
+  std::uint32_t count = 1;
   const bool result = TavrinGetItemCountOfInkCategory(&count);
   answers->Add("CategoryCount", result, count);
   for (std::int32_t i = -1; i <= static_cast<std::int32_t>(count); ++i)
@@ -147,10 +149,12 @@ void AddText(Answers* answers, const char* question, const InkSlot& slot,
 }
 
 void AskSlot(Answers* answers, std::uint32_t number) {
-  InkSlot* slot = nullptr;
+  InkSlot* const untouched = reinterpret_cast<InkSlot*>(answers);
+  InkSlot* slot = untouched;
   const bool known = TavrinGetInkSlot(number, &slot);
-  answers->Add("Slot " + std::to_string(number), known, slot != nullptr);
-  if (slot == nullptr) return;
+  const std::string what = slot == untouched ? "untouched" : slot == nullptr ? "null" : "a slot";
+  answers->Add("Slot " + std::to_string(number), known, what);
+  if (!known) return;
   std::uint32_t color = kUntouched, inkType = kUntouched;
   const bool hasColor = slot->GetColorCode(&color);
   const bool hasInkType = slot->GetInkTypeCode(&inkType);
@@ -162,7 +166,7 @@ void AskSlot(Answers* answers, std::uint32_t number) {
 }
 
 void AskSlots(Answers* answers) {
-  std::uint32_t count = 0;
+  std::uint32_t count = 1;
   const bool result = TavrinGetItemCountOfInkSlot(&count);
   answers->Add("SlotCount", result, count);
   for (std::uint32_t number = 0; number <= count + 1; ++number)
@@ -182,6 +186,7 @@ void AskConditions(Answers* answers, const std::string& path) {
 }  // namespace
 
 std::string AskEverything() {
+  TavrinInitialize(nullptr);
   Answers answers;
   AskIdentity(&answers);
   AskScalars(&answers);

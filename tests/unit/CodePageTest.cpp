@@ -37,6 +37,8 @@ TEST(CodePage932, TextsOfTwoBytesACharacterConvertBothWays) {
 TEST(CodePage932, ASecondByteThatLooksLikeASeparatorCutsNoName) {
   EXPECT_EQ(TemporaryName("Z:\\\x83\x5C.exe", "cfg/\x83\x5C\x83\x5C.dat"),
             "\x83\x5C_\x83\x5C\x83\x5C.bin");
+  for (const std::string name : {"\xE9", "one", "\x87\x90"})  // no text, or one of two spellings
+    EXPECT_EQ(TemporaryName("m", "caf\xE9/" + name + ".dat"), "m_" + name + ".bin");
 }
 
 TEST(CodePage1252, NumbersHaveTheDecimalPointThatTheHostChose) {

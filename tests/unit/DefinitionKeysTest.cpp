@@ -5,10 +5,14 @@
 #include <gtest/gtest.h>
 
 #include "TavrinLib.h"
+#include "check/Reading.h"
 #include "definition/IniSnapshot.h"
 #include "definition/PrinterConfig.h"
 #include "definition/TextConversion.h"
+#include "keys/KeyFacts.h"
+#include "keys/KeyText.h"
 #include "keys/KnownKeys.h"
+#include "keys/Template.h"
 #include "support/Answers.h"
 #include "support/TestFiles.h"
 
@@ -22,7 +26,6 @@ using Keys = std::set<std::string>;
 
 const std::string kProject = TAVRIN_TEST_DATA_DIR "/../../";
 const std::string kExample = kProject + "examples/full-colour.ini";
-const std::string kTemplate = kProject + "tools/keys/template.ini";
 const std::string kDocument = kProject + "docs/definition-file.md";
 
 /// A key's name with N for its number, NNN for one of three digits.
@@ -46,14 +49,14 @@ class WatchedFile : public IniSnapshot {
   Keys asked;
 };
 
-/// The keys that the first group of line finds in the file's lines.
-Keys KeysIn(const std::string& path, const char* line) {
+/// The keys that the first group of line finds in the text's lines.
+Keys KeysIn(const std::string& content, const char* line) {
   const std::regex pattern(line);
-  std::istringstream text(ReadWhole(path));
+  std::istringstream text(content);
   Keys keys;
   std::smatch match;
-  for (std::string content; std::getline(text, content);) {
-    if (std::regex_search(content, match, pattern)) keys.insert(Folded(match[1]));
+  for (std::string each; std::getline(text, each);) {
+    if (std::regex_search(each, match, pattern)) keys.insert(Folded(match[1]));
   }
   return keys;
 }
@@ -71,9 +74,46 @@ TEST(DefinitionKeys, ReaderCheckDocumentTemplateAndExampleHaveTheSame) {
   PrinterConfig config;
   ASSERT_TRUE(config.ParseOpened(example));
   EXPECT_EQ(KnownKeys(), example.asked);
-  EXPECT_EQ(KeysIn(kDocument, "^\\| `(\\w+)` \\|"), example.asked);
-  EXPECT_EQ(KeysIn(kTemplate, "^;?(\\w+)="), example.asked);
-  EXPECT_EQ(KeysIn(kExample, "^(\\w+)="), example.asked);
+  EXPECT_EQ(KeysIn(ReadWhole(kDocument), "^\\| `(\\w+)` \\|"), example.asked);
+  EXPECT_EQ(KeysIn(tool::MakeTemplate(), "^;?(\\w+)="), example.asked);
+  EXPECT_EQ(KeysIn(ReadWhole(kExample), "^(\\w+)="), example.asked);
+}
+
+/// A key's row of the document.
+std::string RowOf(const tool::KeyFacts& facts) {
+  const tool::KeyText text(facts);
+  const tool::KnownKey key = tool::KnownKeyOfShape(facts.shape);
+  const std::string usual = text.usual.empty() ? "" : "; usually " + text.usual;
+  const std::string without = std::regex_replace(text.without, std::regex("#"), "N");
+  return "| `" + Folded(key.WithNumber(1)) + "` | " + text.values + usual + " | " + without +
+         " | " + facts.meaning + " | `" + key.WithNumber(1) + '=' + facts.example + "` |\n";
+}
+
+TEST(DefinitionKeys, FormsAreWhatTheReaderAsksFor) {
+  using Form = tool::KeyFacts::Form;
+  using Kind = tool::WatchedRead::Kind;
+  const std::string example = ReadWhole(kExample);
+  const tool::Reading reading({example.begin(), example.end()});
+  for (const tool::WatchedRead& read : reading.reads) {
+    std::int32_t number = 0;
+    const Form form = tool::FactsOf(reading.KnownKeyOf(read.key, &number)->Shape()).form;
+    const bool isInteger = form == Form::Integer || form == Form::Switch;
+    const bool isNumber = form == Form::Length || form == Form::Number;
+    // What is read as a text may be taken for a number afterwards.
+    if (read.kind == Kind::Text) {
+      EXPECT_TRUE(form != Form::Length && form != Form::Switch) << read.key;
+    } else {
+      EXPECT_TRUE(read.kind == Kind::Integer ? isInteger : isNumber) << read.key;
+    }
+  }
+}
+
+TEST(DefinitionKeys, DocumentHasTheTable) {
+  std::string rows;
+  for (const tool::KeyFacts& facts : tool::ListKeyFacts())
+    rows += RowOf(facts);
+  const std::string table = "|---|---|---|---|---|\n" + rows + '\n';
+  EXPECT_TRUE(ReadWhole(kDocument).find(table) != std::string::npos) << rows;
 }
 
 void Describe(std::ostream& out, const char* title, const InkTable& table) {
@@ -103,13 +143,13 @@ std::string AnswersTo(const std::string& content) {
 }
 
 TEST(DefinitionTemplate, LoadsToTheBuiltInDefaults) {
-  EXPECT_EQ(AnswersTo(ReadWhole(kTemplate)), AnswersTo(Definition("")));
+  EXPECT_EQ(AnswersTo(tool::MakeTemplate()), AnswersTo(Definition("")));
 }
 
 TEST(DefinitionTemplate, IsWholeWithEveryKeyTakenIn) {
   const TestFolder folder;
   const std::string all =
-      std::regex_replace(ReadWhole(kTemplate), std::regex("\n;(?=\\w+=)"), "\n");
+      std::regex_replace(tool::MakeTemplate(), std::regex("\n;(?=\\w+=)"), "\n");
   PrinterConfig config;
   ASSERT_TRUE(config.Parse(folder.Write("all.ini", all)));
   EXPECT_EQ(config.Modes.size(), 2u);

@@ -157,7 +157,9 @@ TEST(Load, ACopyThatCannotBeCreatedLoadsNothing) {
   const std::filesystem::path obstacle = MakeTemporaryPath(path);
   std::filesystem::create_directories(obstacle / "in the way");
   EXPECT_FALSE(PrinterConfig().Load(path));
-  EXPECT_TRUE(std::filesystem::remove_all(obstacle) > 0);
+  EXPECT_TRUE(std::filesystem::remove(obstacle / "in the way"));
+  EXPECT_FALSE(PrinterConfig().Load(path));
+  EXPECT_FALSE(std::filesystem::exists(obstacle)) << "an empty one is taken away";
   EXPECT_TRUE(PrinterConfig().Load(path));
 }
 

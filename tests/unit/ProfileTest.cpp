@@ -70,7 +70,7 @@ TEST(Profile, KeysAreListedInTheirOrder) {
   const TestFolder folder;
   const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\nK=v\n;c\nL=\n[T]\nM=v\n")));
   std::wstring names;
-  reader.ListKeys(L"s", [&](std::wstring_view name) { names.append(name).append(L"."); });
+  reader.ListKeys(L" s ", [&](std::wstring_view name) { names.append(name).append(L"."); });
   EXPECT_EQ(names, L"K.L.");
 }
 

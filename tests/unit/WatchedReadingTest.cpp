@@ -46,8 +46,10 @@ TEST(Modes, AnEntryWithoutAModeAnswersNothing) {
   Install(std::move(config));
   std::int32_t mode[6] = {};
   bool limited = false;
+  lastErrorCode = ErrorInvalidArgument;
   EXPECT_FALSE(TavrinGetModeConfig(0, mode));
   EXPECT_FALSE(TavrinGetWarpWarning(0, &limited));
+  EXPECT_EQ(lastErrorCode, ErrorInvalidArgument) << "the older code stays";
   TavrinFinalize();
 }
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "check/Rules.h"
+#include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
 #include "util/TextUtilities.h"
 
@@ -55,23 +56,43 @@ void CheckMissingEntries(const Check& check, const Table& table) {
              "write the missing entries or lower it");
 }
 
+/// What ids of inks of the type are as a number, which is what categories go by. In those of types
+/// from -9 to -1 it ends at the sign.
+std::int32_t IdNumber(const std::string& digits) {
+  std::int32_t number = 0;
+  ParseInt(digits + "001", &number);
+  return number;
+}
+
+/// Ids hold the last three digits of both codes; categories hold the colour's whole code.
 void CheckCodes(const Check& check, const Table& table) {
+  const bool isColors = &table.entries == &check.reading.config->Colors;
   std::map<double, std::string> byCode;
   std::map<std::string, std::string> byLastDigits;
+  std::map<std::int32_t, std::string> byIdNumber;
   for (const WatchedRead* code : CodesOf(check.reading, table)) {
     const WatchedRead* name = check.reading.Find(NameKeyOf(*code));
     if (!code->converted || name == nullptr || !name->found) continue;  // no entry came of it
+    const std::string& key = code->key;
     std::string digits;
     FormatLastThreeDigits(static_cast<std::int32_t>(code->number), &digits);
-    const auto [same, isNewCode] = byCode.emplace(code->number, code->key);
-    const auto [similar, isNew] = byLastDigits.emplace(digits, code->key);
-    if (isNew) continue;
-    check.Warn(isNewCode ? "same-digits" : "same-code", code->key,
-               isNewCode ? "the code ends in the same three digits as " + similar->second
-                         : "the code is that of " + same->second,
-               isNewCode ? "inks that differ in it alone share one id and one category"
-                         : "slots find the first of the two alone",
-               "give it a code of its own");
+    const auto [same, isNewCode] = byCode.emplace(code->number, key);
+    const auto [similar, areNewDigits] = byLastDigits.emplace(digits, key);
+    const auto [equal, isNewNumber] = byIdNumber.emplace(IdNumber(digits), key);
+    const auto warn = [&](const char* rule, const std::string& what, const char* effect) {
+      check.Warn(rule, key, what, effect, "give it a code of its own");
+    };
+    if (!isNewCode) {
+      warn("same-code", "the code is that of " + same->second,
+           "slots find the first of the two alone");
+    } else if (!areNewDigits) {
+      warn("same-digits", "the code ends in the same three digits as " + similar->second,
+           isColors ? "inks that differ in it alone share one id"
+                    : "inks that differ in it alone share one id and one category");
+    } else if (!isNewNumber && !isColors) {
+      warn("same-number", "ids with this code are the same number as those with " + equal->second,
+           "inks that differ in it alone share one category");
+    }
   }
 }
 

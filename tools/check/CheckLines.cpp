@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "Spelling.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
@@ -80,33 +82,14 @@ const KeyLine* EarlierLine(const LineIndex& lines, const KeyLine& line) {
 }
 
 void CheckLine(const Check& check, const KeyLine& line) {
-  if (!check.reading.Confirms(line)) return;
-  const auto warn = [&](const char* rule, const std::string& what, const std::string& remedy) {
-    check.Add(rule, line.number, Severity::Warning, line.name, what, kNoEffect, remedy);
-  };
-  const std::string header = std::to_string(check.reading.lines.HeaderLine());
-  if (line.place == KeyLine::Place::Outside) {
-    warn("outside-section", "this key is outside section [printer]", "move it into that section");
-  } else if (line.place == KeyLine::Place::LaterSection) {
-    warn("later-section", "only the first section [printer] is read",
-         "move it to the section in line " + header);
-  } else if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
-    warn("key-twice", "only the first line of a key counts",
-         "remove it or line " + std::to_string(earlier->number));
+  if (line.place != KeyLine::Place::Section || !check.reading.Confirms(line)) return;
+  if (const KeyLine* earlier = EarlierLine(check.reading.lines, line)) {
+    check.Add("key-twice", line.number, Severity::Warning, line.name,
+              "only the first line of a key counts", kNoEffect,
+              "remove it or line " + std::to_string(earlier->number));
   } else if (check.reading.Find(line.name) == nullptr) {
     CheckUnreadKey(check, line);
   }
-}
-
-void CheckVersion(const Check& check) {
-  const LineIndex& lines = check.reading.lines;
-  const KeyLine* version = lines.Find("Version");
-  check.Add(lines.HeaderLine() == 0 ? "no-section" : "no-version", Severity::Error, "Version",
-            lines.HeaderLine() == 0  ? "there is no section [printer]"
-            : version == nullptr     ? "this key is missing"
-            : version->value.empty() ? "this key has no value"
-                                     : "nothing of so long a value is read",
-            "the definition does not load", "write Version=... in section [printer]");
 }
 
 }  // namespace
@@ -126,11 +109,6 @@ bool CheckMark(const Check& check) {
 }
 
 void CheckLines(const Check& check) {
-  if (!check.reading.loads) CheckVersion(check);
-  for (const std::size_t header : check.reading.lines.CrowdedHeaders()) {
-    check.Add("text-behind-header", header, Severity::Warning, "[printer]",
-              "text follows ] in its line", "it has no effect", "move it to a line of its own");
-  }
   for (const KeyLine& line : check.reading.lines.Keys())
     CheckLine(check, line);
 }

@@ -6,11 +6,11 @@ namespace tavrin::tool {
 namespace {
 
 void CheckText(const Check& check, const char* key, const std::string& text) {
-  constexpr std::size_t kLongest = 128;
-  if (text.size() <= kLongest) return;
+  if (FactsOf(key).range.Contains(static_cast<double>(text.size()))) return;
   check.Add("long-text", Severity::Error, key,
             "the text has " + std::to_string(text.size()) + " bytes",
-            "the query for all three texts of the printer fails", "shorten it to 128 bytes");
+            "the query for all three texts of the printer fails",
+            "shorten it to " + NumberText(FactsOf(key).range.most) + " bytes");
 }
 
 /// Every switch is on at 1, and off at the given value.

@@ -80,8 +80,12 @@ class ValueCheck {
   void CheckSize(const std::wstring& field, double number) const;
   /// Of the code or name of a table's entry, the line of the other; null when it has none.
   const KeyLine* OtherHalf() const;
-  /// Lengths are held in whole µm; the angle is the one number read as such that is none.
-  bool IsLength() const { return read_.kind == Kind::Number && read_.key != "SupportExtendAngle"; }
+  /// Lengths are held in whole µm.
+  bool IsLength() const { return facts_.form == Form::Length; }
+  /// Whether the printer gets an empty text when the key is missing.
+  bool IsEmptyWithout() const {
+    return read_.kind == Kind::Text && Outcome() == "the printer gets " + Quoted("");
+  }
   std::string Outcome() const { return facts_.Outcome(*check_.reading.config, number_); }
   Finding& Warn(const char* rule, const std::string& what, const std::string& effect,
                 const std::string& remedy) const {
@@ -101,6 +105,7 @@ void ValueCheck::CheckMissing() const {
     Warn("long-value", "nothing of so long a value is read", Outcome(),
          "shorten it to 260 characters");
   } else if (line_ != nullptr) {
+    if (IsEmptyWithout() && !line_->hasNul) return;  // it is what is written
     Warn("no-value", "a key without a value counts as missing", Outcome(), "write a value");
   } else if (facts_.governor == nullptr || shape == "Mode#LimitedContinuous") {
     check_.Add("default-used", Severity::Note, read_.key, "this key is missing", Outcome(),
@@ -121,15 +126,10 @@ const KeyLine* ValueCheck::OtherHalf() const {
 }
 
 void ValueCheck::CheckText() const {
-  constexpr wchar_t kReplacement = 0xFFFD;
   CheckLength();
   if (line_ != nullptr && line_->hasNul)
     Warn("nul", "a NUL ends the name or the value", kRestHasNoEffect, "remove it");
-  if (read_.text.find(kReplacement) != std::wstring::npos &&
-      (line_ == nullptr || line_->value.find("\xEF\xBF\xBD") == std::string::npos)) {
-    Warn("undecodable", "the value has bytes that are no character of the user's encoding",
-         "the printer gets a replacement character for each", "save the file in that encoding");
-  } else if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
+  if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
     Warn("unencodable", "the value has a character that the user's encoding lacks",
          "the printer gets an empty text", "do without that character");
   }

@@ -9,12 +9,6 @@ namespace tavrin::tool {
 
 namespace {
 
-std::string_view Trim(std::string_view text) {
-  constexpr char kBlanks[] = " \t\v\f\x1A";
-  const std::size_t begin = std::min(text.find_first_not_of(kBlanks), text.size());
-  return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
-}
-
 /// A NUL ends what a part of a line spells.
 std::string Spelled(std::string_view part) {
   const std::string_view text = Trim(part);
@@ -27,15 +21,20 @@ std::string Unquoted(const std::string& value) {
   return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
-/// Of UTF-16 what is beyond ASCII comes out as '?'.
 std::string TextOf(const Bytes& plain, const TextFormat& format) {
   if (format.unitLength == 1)
     return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
+  constexpr char kOutOfStep = '\x01';
+  const auto isAscii = [](unsigned char low, unsigned char high) {
+    return high == 0 && low < 0x80;
+  };
   std::string text;
+  std::size_t swapped = 0;  // units in a row that are ASCII with their bytes the wrong way round
   for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
     const unsigned char low = plain[i + format.lowByte];
-    const bool isAscii = plain[i + 1 - format.lowByte] == 0 && low < 0x80;
-    text += isAscii ? static_cast<char>(low) : '?';
+    const unsigned char high = plain[i + 1 - format.lowByte];
+    swapped = isAscii(high, low) ? swapped + 1 : 0;
+    text += isAscii(low, high) ? static_cast<char>(low) : swapped > 2 ? kOutOfStep : '?';
   }
   return text;
 }
@@ -49,6 +48,12 @@ std::string_view TakeLine(std::string_view* rest) {
 }
 
 }  // namespace
+
+std::string_view Trim(std::string_view text) {
+  constexpr char kBlanks[] = " \t\v\f\x1A";
+  const std::size_t begin = std::min(text.find_first_not_of(kBlanks), text.size());
+  return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
+}
 
 std::string Folded(std::string_view name) {
   std::string folded(name);
@@ -81,8 +86,13 @@ LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
     : format_(format), isKnown_(isKnown) {
   const std::string text = TextOf(plain, format);
   std::string_view rest = text;
-  for (std::size_t number = 1; !rest.empty(); ++number)
-    AddLine(number, TakeLine(&rest));
+  while (!rest.empty()) {
+    lines_.emplace_back(TakeLine(&rest));
+    AddLine(lines_.size(), lines_.back());
+  }
+  const bool hasEnd = text.find_last_of("\r\n") == text.size() - 1;
+  const bool isWhole = (plain.size() - format.markLength) % format.unitLength == 0;
+  isEnded_ = isWhole && (hasEnd || lines_.empty() || Trim(lines_.back()).empty());
 }
 
 void LineIndex::AddLine(std::size_t number, std::string_view text) {
@@ -91,25 +101,33 @@ void LineIndex::AddLine(std::size_t number, std::string_view text) {
   if (line.front() == ';') {
     comments_.push_back({number, std::string(line.substr(1))});
   } else if (line.front() == '[') {
-    AddHeader(number, line);
+    AddHeader(number, text);
   } else {
     AddKey(number, text);
   }
 }
 
-void LineIndex::AddHeader(std::size_t number, std::string_view line) {
-  place_ = KeyLine::Place::Outside;
-  const std::size_t end = std::min(line.find(']'), line.size());
-  if (Folded(Spelled(line.substr(1, end - 1))) != kPrinterSection) return;
-  // Where the reading code does not know a mark it takes it for text, but of the first line alone.
-  if (!isKnown_ && (IsUtf16() || number == 1)) {
-    if (hiddenHeaderLine_ == 0) hiddenHeaderLine_ = number;
-    return;
+void LineIndex::AddHeader(std::size_t number, std::string_view text) {
+  const std::size_t begin = text.find('[');
+  const std::size_t end = std::min(text.find(']'), text.size());
+  SectionHeader header = {number,
+                          KeyLine::Place::Outside,
+                          false,
+                          end < text.size(),
+                          Spelled(text.substr(begin + 1, end - begin - 1)),
+                          begin,
+                          std::min(end + 1, text.size())};
+  if (Folded(header.name) == kPrinterSection) {
+    // Where the reading code does not know a mark it takes it for text, but of the first line
+    // alone.
+    header.isHidden = !isKnown_ && (IsUtf16() || number == 1);
+    std::size_t& first = header.isHidden ? hiddenHeaderLine_ : headerLine_;
+    if (!header.isHidden)
+      header.place = first == 0 ? KeyLine::Place::Section : KeyLine::Place::LaterSection;
+    if (first == 0) first = number;
   }
-  place_ = headerLine_ == 0 ? KeyLine::Place::Section : KeyLine::Place::LaterSection;
-  if (headerLine_ == 0) headerLine_ = number;
-  const std::string_view behind = Trim(line.substr(std::min(end + 1, line.size())));
-  if (!behind.empty() && behind.front() != ';') crowdedHeaders_.push_back(number);
+  place_ = header.place;
+  headers_.push_back(header);
 }
 
 void LineIndex::AddKey(std::size_t number, std::string_view text) {

@@ -13,6 +13,9 @@ namespace tavrin::tool {
 /// The name with its ASCII letters in lower case: keys and sections go by it.
 std::string Folded(std::string_view name);
 
+/// The text without the blanks at its ends, as the reading code counts them.
+std::string_view Trim(std::string_view text);
+
 /// A line that spells a key.
 struct KeyLine {
   enum class Place { Outside, Section, LaterSection };
@@ -33,6 +36,17 @@ struct KeyLine {
 struct CommentLine {
   std::size_t number;  ///< from 1
   std::string text;    ///< what follows its semicolon
+};
+
+/// A line that begins a section.
+struct SectionHeader {
+  std::size_t number = 0;                          ///< from 1
+  KeyLine::Place place = KeyLine::Place::Outside;  ///< of the keys below it
+  bool isHidden = false;                           ///< the reading code does not see it
+  bool hasEnd = false;                             ///< there is a ]
+  std::string name = {};
+  std::size_t begin = 0;  ///< where in the line [ is
+  std::size_t end = 0;    ///< what follows ]
 };
 
 /// What the index and the library have alike of a text: its ASCII but for '?', which either puts
@@ -59,7 +73,8 @@ struct TextFormat {
 /// Says which line of a plain definition is which key. It knows the outline of the format, but not
 /// what a key means; what it says is held against what the library read.
 ///
-/// Texts are the file's bytes. Of UTF-16 only ASCII is kept, all else being '?'.
+/// Texts are the file's bytes. Of UTF-16 only ASCII is kept, all else being '?', or a control
+/// character where the bytes are out of step.
 class LineIndex {
  public:
   /// @param isKnown false when the reading code takes the format for the user's encoding.
@@ -74,13 +89,16 @@ class LineIndex {
   std::size_t HeaderLine() const { return headerLine_; }
   /// Where a section begins that the unknown format hides from the reading code; 0 for nowhere.
   std::size_t HiddenHeaderLine() const { return hiddenHeaderLine_; }
-  /// The headers of sections of the name with more in their line than a comment.
-  const std::vector<std::size_t>& CrowdedHeaders() const { return crowdedHeaders_; }
+  const std::vector<SectionHeader>& Headers() const { return headers_; }
+  /// Every line as it stands, without its end.
+  const std::vector<std::string>& Lines() const { return lines_; }
+  /// Whether the last line is ended, or nothing stands in it.
+  bool IsEnded() const { return isEnded_; }
   bool IsUtf16() const { return format_.unitLength == 2; }
 
  private:
   void AddLine(std::size_t number, std::string_view text);
-  void AddHeader(std::size_t number, std::string_view line);
+  void AddHeader(std::size_t number, std::string_view text);
   void AddKey(std::size_t number, std::string_view text);
 
   TextFormat format_;
@@ -90,7 +108,9 @@ class LineIndex {
   std::map<std::string, std::size_t> counting_;  ///< by folded name, into keys_
   std::size_t headerLine_ = 0;
   std::size_t hiddenHeaderLine_ = 0;
-  std::vector<std::size_t> crowdedHeaders_;
+  std::vector<SectionHeader> headers_;
+  std::vector<std::string> lines_;
+  bool isEnded_ = true;
   KeyLine::Place place_ = KeyLine::Place::Outside;
 };
 

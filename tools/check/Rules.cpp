@@ -58,8 +58,8 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules :
-       {CheckIgnores, CheckLines, CheckValues, CheckPrinter, CheckModes, CheckInks})
+  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
+                           CheckModes, CheckInks, CheckRanges, CheckWhole, CheckIgnores})
     rules(check);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });

@@ -42,8 +42,12 @@ Findings FindAll(const Reading& reading);
 ///
 /// @return whether nothing else loads; there is then no sense in the other rules.
 bool CheckMark(const Check& check);
-/// Sections, and lines that nothing reads.
+/// The section, and what stands outside it.
+void CheckSections(const Check& check);
+/// Lines that nothing reads.
 void CheckLines(const Check& check);
+/// Texts as they are written: comments, quotes, addresses, encodings.
+void CheckTexts(const Check& check);
 /// Each read by itself: whether it found a value, and what came of it.
 void CheckValues(const Check& check);
 /// Comments that silence kinds of findings, for ids that there are not.
@@ -53,5 +57,10 @@ void CheckPrinter(const Check& check);
 void CheckModes(const Check& check);
 /// Colours, ink types, slots and categories.
 void CheckInks(const Check& check);
+/// Numbers that are out of range, that no printer can use or that lose digits, as far as the rules
+/// before it have said nothing of them.
+void CheckRanges(const Check& check);
+/// Whether the file is whole. It comes last, as what is missing for that reason is no mistake.
+void CheckWhole(const Check& check);
 
 }  // namespace tavrin::tool

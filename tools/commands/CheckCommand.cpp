@@ -6,12 +6,14 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Failure.h"
 #include "Spelling.h"
 #include "check/DefinitionReading.h"
 #include "check/FileReport.h"
+#include "check/FindingLimit.h"
 #include "check/Ignores.h"
 #include "check/RuleList.h"
 #include "check/Rules.h"
@@ -58,12 +60,7 @@ Findings FindingsIn(const DefinitionReading& definition, const CheckOptions& opt
   const Findings found = FindAll(definition.reading);
   findings.insert(findings.end(), found.begin(), found.end());
   DropIgnored(options.ignored, &findings);
-  const Severity threshold = kThresholds.at(options.threshold);
-  findings.erase(
-      std::remove_if(findings.begin(), findings.end(),
-                     [=](const Finding& finding) { return finding.severity < threshold; }),
-      findings.end());
-  return findings;
+  return LimitFindings(std::move(findings), kThresholds.at(options.threshold));
 }
 
 void CheckFile(const std::string& file, const CheckOptions& options, FileReports* reports) {

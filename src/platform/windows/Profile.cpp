@@ -1,5 +1,7 @@
 #include "platform/Profile.h"
 
+#include <algorithm>
+#include <string>
 #include <vector>
 
 #include <windows.h>
@@ -40,6 +42,9 @@ std::uint32_t ProfileReader::Read(const wchar_t* section, const wchar_t* key, wc
 
 void ProfileReader::ListKeys(const wchar_t* section,
                              const std::function<void(std::wstring_view)>& take) const {
+  std::wstring_view name = section;  // spaces round it would be a part of it here
+  name.remove_prefix(std::min(name.find_first_not_of(L' '), name.size()));
+  const std::wstring asked(name.substr(0, name.find_last_not_of(L' ') + 1));
   // The lines, as asking for the names alone gives none where the first line's is empty. Each ends
   // in a NUL, the list in one more. A list that fills the buffer but for two characters has been
   // cut.
@@ -47,7 +52,7 @@ void ProfileReader::ListKeys(const wchar_t* section,
   DWORD length = 0;
   for (;;) {
     const auto size = static_cast<DWORD>(buffer.size());
-    length = GetPrivateProfileSectionW(section, buffer.data(), size, source_->Path());
+    length = GetPrivateProfileSectionW(asked.c_str(), buffer.data(), size, source_->Path());
     if (length < size - 2 || size > kLongestList / 2) break;
     buffer.resize(2 * buffer.size());
   }

@@ -1,11 +1,11 @@
 // What a first run on a Windows machine has to show, and whether it does, line by line; behind it
 // the inks and categories of the definition. In a directory with the unpacked package, for
 // Microsoft's compiler and linker and then for MinGW:
-//   cl /MD /EHsc /std:c++17 /I include\TavrinLib FirstRun.cpp lib\TavrinLib.lib
-//   g++ -static -I include/TavrinLib FirstRun.cpp lib/libTavrinLib.dll.a -o FirstRun
+//   cl /MD /EHsc /std:c++17 /I include\TavrinLib first_run.cpp lib\TavrinLib.lib
+//   g++ -static -I include/TavrinLib first_run.cpp lib/libTavrinLib.dll.a -o first_run
 // and beside TavrinLib.dll:
 //   tavrin encipher full-colour.ini full-colour.def
-//   FirstRun full-colour.def
+//   first_run full-colour.def
 // It takes nothing of the C++ library, so that it compiles where there is none.
 #include <windows.h>
 #include <stdint.h>
@@ -139,7 +139,7 @@ void ListCategories() {
 
 int main(int argc, char** argv) {
   if (argc != 2) {
-    printf("usage: FirstRun DEFINITION\n");
+    printf("usage: first_run DEFINITION\n");
     return 2;
   }
   const bool loaded = TavrinInitialize(argv[1]);

@@ -1,14 +1,9 @@
 #include "commands/TemplateCommand.h"
 
 #include "files/FileTransfer.h"
+#include "keys/Template.h"
 
 namespace tavrin::tool {
-
-namespace {
-
-constexpr char kTemplate[] = R"INI(@template@)INI";
-
-}  // namespace
 
 void AddTemplate(CLI::App* app) {
   CLI::App* command =
@@ -21,7 +16,7 @@ void AddTemplate(CLI::App* app) {
       "Example: tavrin template > printer.ini\n"
       "         tavrin check printer.ini\n"
       "         tavrin encipher printer.ini printer.dat");
-  command->callback([] { PrintText(kTemplate); });
+  command->callback([] { PrintText(MakeTemplate()); });
 }
 
 }  // namespace tavrin::tool
