@@ -47,11 +47,12 @@ constexpr Unit kOtherUnits[] = {{"um", 0.001}, {"cm", 10.0}, {"m", 1000.0}};
 /// A length in mm that is read as this many um. Some numbers of three decimals are, as doubles, a
 /// little less than they say; one more digit lifts those.
 std::string LengthText(std::int32_t micrometres) {
-  const std::string text = NumberText(micrometres / kMicrometresPerMillimetre);
+  const double length = micrometres / kMicrometresPerMillimetre;
   double number = 0.0;
-  if (ParseDouble(text, &number) && ToMicrometres(number) == micrometres) return text;
+  if (ParseDouble(NumberText(length), &number) && ToMicrometres(number) == micrometres)
+    return NumberText(length);
   char lifted[32];
-  std::snprintf(lifted, sizeof lifted, "%.3f0001", micrometres / kMicrometresPerMillimetre);
+  std::snprintf(lifted, sizeof lifted, "%.3f0001", length);
   return lifted;
 }
 

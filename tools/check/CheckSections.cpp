@@ -64,7 +64,7 @@ bool IsNearName(const std::string& text) {
 std::size_t LineMeantAsHeader(const LineIndex& lines) {
   for (std::size_t i = 0; i < lines.Lines().size(); ++i) {
     const std::string_view line = Trim(lines.Lines()[i]);
-    if (line.empty() || line.front() == '[' || line.find('=') != line.npos) continue;
+    if (line.empty() || line.front() == '[' || line.find('=') != std::string_view::npos) continue;
     const bool isComment = line.front() == ';';
     const std::string_view text = Trim(line.substr(isComment ? 1 : 0));
     if (isComment && (text.empty() || text.front() != '[')) continue;
@@ -253,8 +253,9 @@ bool CheckHeaderLine(const Check& check, const Section& section) {
     return section.hasVersion;
   }
   if (behind.empty() || behind.front() == ';') return false;
-  const std::string name =
-      behind.find('=') == behind.npos ? "" : Folded(Trim(behind.substr(0, behind.find('='))));
+  const std::string name = behind.find('=') == std::string_view::npos
+                               ? ""
+                               : Folded(Trim(behind.substr(0, behind.find('='))));
   const bool isKey = !name.empty();
   const bool isVersion = name == "version";
   const bool isCause = isVersion && !loads;

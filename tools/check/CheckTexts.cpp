@@ -59,6 +59,7 @@ class WrittenValue {
   }
   Quote First() const { return QuoteAt(true); }
   Quote Last() const { return QuoteAt(false); }
+  std::size_t TypographicQuotes() const;
 
  private:
   Quote QuoteAt(bool isFirst) const;
@@ -84,6 +85,22 @@ Quote WrittenValue::QuoteAt(bool isFirst) const {
   return {};
 }
 
+std::size_t WrittenValue::TypographicQuotes() const {
+  std::size_t count = 0;
+  const auto add = [&](const auto& text, auto quote) {
+    count += static_cast<std::size_t>(std::count(text.begin(), text.end(), quote));
+  };
+  for (const TypographicQuote& quote : kTypographicQuotes) {
+    add(wide_, quote.wide);
+    if (wide_.empty() && !IsUtf8(text_) && quote.ansi != '\0') add(text_, quote.ansi);
+    if (!IsUtf8(text_)) continue;
+    for (std::size_t i = text_.find(quote.utf8); i != std::string_view::npos;
+         i = text_.find(quote.utf8, i + 1))
+      ++count;
+  }
+  return count;
+}
+
 /// Looks at one value of a line of its own.
 class TextCheck {
  public:
@@ -95,6 +112,7 @@ class TextCheck {
 
   /// @return whether there is something amiss.
   bool CheckQuotes() const;
+  bool CheckFieldQuotes() const;
   bool CheckComment() const;
   void CheckAddress() const;
 
@@ -133,27 +151,30 @@ bool TextCheck::CheckQuotes() const {
   const Quote last = value_.Last();
   const bool isAlone = text.size() < first.length + last.length;
   if ((first.length == 0 && last.length == 0) || value_.IsQuoted()) return false;
-  if (!isAlone && (first.isTypographic || last.isTypographic) && first.length > 0 &&
-      last.length > 0) {
+  const bool areBoth = !isAlone && first.length > 0 && last.length > 0;
+  if (areBoth && (first.isTypographic || last.isTypographic)) {
     Finding& finding = Warn("quotes", 0, "typographic quotes are not taken off the value",
                             "they are part of it", "write \" in place of both");
     Replace(&finding, 0, first.length, "\"");
     Replace(&finding, text.size() - last.length, last.length, "\"");
     return true;
   }
-  const bool isFirst = first.length > 0;
-  const Quote& quote = isFirst ? first : last;
-  if (!isFirst) {
-    // At the end of a text, ' is an apostrophe and " behind a digit means inches.
-    const std::size_t before = text.size() - last.length;
-    if (last.plain == '\'' || (before > 0 && IsOneOf(text[before - 1], kDigits))) return false;
-  }
-  if (isFirst && last.length > 0 && !isAlone) {
+  if (areBoth && first.plain != last.plain) {
     Warn("quotes", 0, "the value begins and ends with quotes of two kinds", "both are part of it",
          "write the same at both ends");
     return true;
   }
+  const bool isFirst = first.length > 0;
+  const Quote& quote = isFirst ? first : last;
   const std::size_t begin = isFirst ? 0 : text.size() - last.length;
+  // Within the text the quotes may have their like.
+  const bool isPaired = quote.isTypographic
+                            ? value_.TypographicQuotes() > 1
+                            : std::count(text.begin(), text.end(), quote.plain) % 2 == 0;
+  // At the end of a text, ' is an apostrophe and " behind a digit means inches.
+  const bool isSign =
+      !isFirst && (last.plain == '\'' || (begin > 0 && IsOneOf(text[begin - 1], kDigits)));
+  if (isPaired || isSign) return false;
   Finding& finding =
       Warn("quotes", begin,
            std::string("a quote stands at the ") + (isFirst ? "start" : "end") + " alone",
@@ -162,18 +183,32 @@ bool TextCheck::CheckQuotes() const {
   return true;
 }
 
+bool TextCheck::CheckFieldQuotes() const {
+  const std::string_view text = value_.Text();
+  const auto count = std::count(text.begin(), text.end(), '"');
+  if (text.find(',') == std::string_view::npos || count < 2 || (count == 2 && value_.IsQuoted()))
+    return false;
+  Finding& finding = Warn("quotes", text.find('"'), "there are quotes round the fields of the list",
+                          "they are part of them", "remove them");
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '"') Replace(&finding, i, 1, "");
+  }
+  return true;
+}
+
 bool TextCheck::CheckComment() const {
   const std::string_view text = value_.Text();
   if (value_.IsQuoted()) return false;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (i > 0 && !IsOneOf(text[i - 1], kBlanks)) continue;
     const std::string_view rest = text.substr(i);
-    const std::string_view behind = rest.substr(std::min<std::size_t>(1, rest.size()));
-    const bool isSure = rest.front() == ';' || rest.substr(0, 2) == "//";
+    const std::size_t next = rest.find_first_not_of(kBlanks, 1);
+    const bool isBehindBlank = i == 0 || IsOneOf(text[i - 1], kBlanks);
+    const bool isSure = isBehindBlank && (rest.front() == ';' || rest.substr(0, 2) == "//");
     // In front of a digit, # means a number.
-    const bool isHash =
-        rest.front() == '#' && (behind.empty() || !IsOneOf(behind.front(), kDigits));
-    if (!isSure && !isHash) continue;
+    const bool isHash = isBehindBlank && rest.front() == '#' &&
+                        (next == std::string_view::npos || !IsOneOf(rest[next], kDigits));
+    const bool isSemicolon = rest.front() == ';' && (next > 1 || read_.key == "Version");
+    if (!isSure && !isHash && !isSemicolon) continue;
     const std::size_t begin = i == 0 ? 0 : text.find_last_not_of(kBlanks, i - 1) + 1;
     Finding& finding = Warn("value-comment", i, "there is no comment behind a value",
                             Quoted(std::string(rest)) + " is part of it",
@@ -260,7 +295,7 @@ void CheckTexts(const Check& check) {
     const bool isText = read.kind == WatchedRead::Kind::Text && facts.form == KeyFacts::Form::Text;
     const TextCheck text(check, read, *line);
     if (isText && text.CheckComment()) continue;
-    if (text.CheckQuotes()) {
+    if ((!isText && text.CheckFieldQuotes()) || text.CheckQuotes()) {
       LeaveOutConsequences(check, line->number);
       continue;
     }

@@ -58,7 +58,7 @@ std::string Mended(const std::string& text, bool withZeros) {
 AddressDoubt DoubtAboutUrl(const std::string& text, std::size_t scheme) {
   const std::string rest = text.substr(scheme + 3);
   const std::string host = rest.substr(0, rest.find_first_of("/:?#@["));
-  const bool isHost = !host.empty() && rest.find_first_of("@[") == rest.npos;
+  const bool isHost = !host.empty() && rest.find_first_of("@[") == std::string::npos;
   const bool isAll = rest == host || rest == host + '/';
   return {"is a URL, not an address", isHost ? host : "",
           !isHost ? Certainty::None
@@ -70,7 +70,8 @@ AddressDoubt DoubtAboutUrl(const std::string& text, std::size_t scheme) {
 bool LooksLikeIpv4(const std::string& text) {
   constexpr std::string_view kLookAlikes = "0123456789.,OoIl \t";
   constexpr std::size_t kLongest = 40;  // with room for blanks
-  const bool isOfThem = text.size() <= kLongest && text.find_first_not_of(kLookAlikes) == text.npos;
+  const bool isOfThem =
+      text.size() <= kLongest && text.find_first_not_of(kLookAlikes) == std::string::npos;
   const std::size_t digits = static_cast<std::size_t>(std::count_if(
       text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; }));
   return isOfThem && digits > 0 && digits * 2 >= text.size() - digits;
@@ -81,13 +82,18 @@ bool LooksLikeIpv4(const std::string& text) {
 AddressDoubt DoubtAbout(const std::string& text) {
   if (text.empty() || IsIpv4(text)) return {};
   const std::size_t scheme = text.find("://");
-  if (scheme != text.npos) return DoubtAboutUrl(text, scheme);
-  const std::string start = text.substr(0, text.find_first_of(":/ \t"));
-  if (start.size() < text.size() && IsIpv4(start))
-    return {"has more than an address", start, Certainty::Likely};
-  if (!LooksLikeIpv4(text)) return {};
-  if (const std::string mended = Mended(text, false); !mended.empty())
+  if (scheme != std::string::npos) return DoubtAboutUrl(text, scheme);
+  const bool isMeantAsIpv4 = LooksLikeIpv4(text);
+  if (const std::string mended = Mended(text, false); isMeantAsIpv4 && !mended.empty())
     return {"is no IPv4 address", mended, Certainty::Certain};
+  const std::string start = text.substr(0, text.find_first_of(":/,; \t"));
+  const std::string behind = text.substr(start.size());
+  const bool hasPort = behind.size() > 1 && behind.front() == ':' &&
+                       behind.find_first_not_of("0123456789", 1) == std::string::npos;
+  const bool hasPath = text.find('/') != std::string::npos;
+  if (start.size() < text.size() && !start.empty() && (IsIpv4(start) || hasPort || hasPath))
+    return {"has more than an address", start, Certainty::Likely};
+  if (!isMeantAsIpv4) return {};
   if (const std::string mended = Mended(text, true); !mended.empty())
     return {"has a 0 in front of a number, which some systems read as octal", mended,
             Certainty::Likely};

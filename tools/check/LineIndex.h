@@ -32,12 +32,6 @@ struct KeyLine {
   bool HasPlainName() const;
 };
 
-/// A line that says nothing to the library.
-struct CommentLine {
-  std::size_t number;  ///< from 1
-  std::string text;    ///< what follows its semicolon
-};
-
 /// A line that begins a section.
 struct SectionHeader {
   std::size_t number = 0;                          ///< from 1
@@ -47,6 +41,12 @@ struct SectionHeader {
   std::string name = {};
   std::size_t begin = 0;  ///< where in the line [ is
   std::size_t end = 0;    ///< what follows ]
+};
+
+/// A line that says nothing to the library.
+struct CommentLine {
+  std::size_t number;  ///< from 1
+  std::string text;    ///< what follows its semicolon
 };
 
 /// What the index and the library have alike of a text: its ASCII but for '?', which either puts

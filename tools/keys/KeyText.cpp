@@ -14,15 +14,13 @@ using Form = KeyFacts::Form;
 std::string FormText(const KeyFacts& facts) {
   switch (facts.form) {
     case Form::Text:
-      return facts.unit;
     case Form::Switch:
+    case Form::Number:
       return facts.unit;
     case Form::Integer:
       return "integer";
     case Form::Integers:
       return facts.fields == 0 ? "mode numbers with commas between" : "two integers";
-    case Form::Number:
-      return facts.unit;
     case Form::Numbers:
       return "three numbers in mm";
     case Form::Length:
