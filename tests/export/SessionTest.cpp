@@ -107,7 +107,7 @@ TEST_F(SessionTest, ListsModesSlotsAndCategories) {
   }
   ASSERT_EQ(slots.size(), 8u);
   EXPECT_EQ(slots[0], "1 0 0 000000 ?");
-  EXPECT_THAT(slots, testing::Contains(testing::HasSubstr(" Cyan")));
+  EXPECT_THAT(slots, testing::Contains("5 1 113 113001 KP-300 Cyan"));
 
   const std::vector<Category> categories = session.Categories();
   std::uint32_t count = 0;

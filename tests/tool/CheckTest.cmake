@@ -44,6 +44,36 @@ foreach(case nul-tail utf16-big-endian)
   check("enciphered; expected: ${expected}" output STREQUAL expected)
 endforeach()
 
+# Followed, what is certain leaves nothing certain, and NAME.fixed is what becomes of NAME.ini: its
+# bytes but for what was mistaken.
+file(MAKE_DIRECTORY ${WORK}/fixed)
+file(COPY ${CASES}/ DESTINATION ${WORK}/fixed FILES_MATCHING PATTERN "*.ini")
+file(GLOB to_fix RELATIVE ${WORK} ${WORK}/fixed/*.ini)
+run(check --fix ${to_fix})
+check("nothing fixed" output MATCHES "\\+PrintMargin=53\\.7\n")
+check("what the printer gets" output MATCHES
+  "\nbefore: Build volume: Print margin 53\\.000 mm\n" AND output MATCHES
+  "\nafter:  Build volume: Print margin 53\\.700 mm\n")
+check("certain after a fix" NOT output MATCHES "certain: --fix")
+run(check --diff ${to_fix})
+check("a second fix" NOT output AND NOT message)
+file(GLOB known RELATIVE ${CASES} ${CASES}/*.fixed)
+check("no known fixes" known)
+foreach(fixed IN LISTS known)
+  string(REPLACE ".fixed" ".ini" definition ${fixed})
+  expect_same(fixed/${definition} ${fixed})
+endforeach()
+
+succeed(encipher number-meant.ini number-meant.dat)
+run(check --diff number-meant.dat)
+set(diff "${output}")
+run(check --fix number-meant.dat)
+string(FIND "${output}" "${diff}" position)
+check("--fix does what --diff shows" diff AND position EQUAL 0)
+succeed(decipher number-meant.dat number-meant.plain)
+expect_same(number-meant.plain number-meant.fixed)
+refuse(3 "standard input: cannot be changed" check --fix -)
+
 # Of many findings the gravest are shown.
 string(REPEAT "Something=1\n" 150 unknown)
 file(WRITE ${WORK}/many.ini "[printer]\n${unknown}ModelName=a\n")

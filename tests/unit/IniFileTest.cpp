@@ -93,8 +93,9 @@ class Answering : public IniFile {
 TEST(IniFile, OverridingTheWideReadsChangesTheNarrowOnes) {
   Answering ini;
   std::string text;
-  for (const std::string& key : {std::string("2"), std::string(), std::string(47, 'k'),
-                                 std::string(48, 'k'), NarrowCopy(L"B\u00FCro")}) {
+  for (const std::string& key :
+       {std::string("2"), std::string(), std::string(47, 'k'), std::string(48, 'k'),
+        std::string("\x80"), NarrowCopy(L"B\u00FCro")}) {
     EXPECT_TRUE(ini.ReadString("1", key, &text));
     EXPECT_EQ(text, "1" + key);
   }

@@ -59,6 +59,7 @@ TEST(Profile, NamesFoldTheLettersAlone) {
   for (const std::string head : {"", ";\xC3\xA9\n"}) {
     const auto path = Wide(folder.Write("a.ini", head + "[zz@[]\n" + keys + "[ZZ`[]\nK=v\n"));
     EXPECT_EQ(Read(path, L"zz`[", L"k"), L"v");
+    EXPECT_EQ(Read(path, L"zz`[", L"\u014B"), L"") << "its low byte is a K";
     EXPECT_EQ(Read(path, L"ZZ@[", L"`azAZ{@["), L"v");
     EXPECT_EQ(Read(path, L"ZZ@[", L"@AZaz[`{"), L"w");
     EXPECT_EQ(Read(path, L"ZZ@[", L"`azAZ[@["), L"");

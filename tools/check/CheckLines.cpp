@@ -1,8 +1,9 @@
 #include <algorithm>
+#include <set>
 
-#include "Spelling.h"
+#include "check/KeySuggestion.h"
+#include "check/LineEdits.h"
 #include "check/Rules.h"
-#include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
@@ -11,39 +12,26 @@ namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
 
-/// The known key whose spelling is nearest, with the number that name has or else 1;
-/// empty when none is near.
-std::string NearestKey(const Reading& reading, const std::string& name) {
-  std::int32_t number = 1;
-  const std::size_t digits = name.find_first_of("0123456789");
-  if (digits != std::string::npos) ParseInt(name.substr(digits), &number);
-  std::string nearest;
-  std::size_t limit = name.size() / 4 + 2;
-  for (const KnownKey& known : reading.knownKeys) {
-    const std::string candidate = known.WithNumber(number);
-    const std::size_t distance = SpellingDistance(Folded(name), Folded(candidate));
-    if (distance >= limit) continue;
-    nearest = candidate;
-    limit = distance;
-  }
-  return nearest;
-}
-
-/// Whether keys of the number are asked for through the governor, or would be if no earlier one had
-/// stopped the reading; what is amiss is then said of that one.
-bool IsCalledFor(const Reading& reading, const std::string& governor, std::int32_t number) {
-  const WatchedRead* count = reading.FindNumber(governor);
-  if (governor == "PrinterInkSlotNum")
-    return count != nullptr && number >= 1 && number <= count->number;
-  return reading.numbersAskedFor.count({governor, number}) != 0;
-}
-
 void CheckUnknownKey(const Check& check, const KeyLine& line) {
-  const std::string nearest = NearestKey(check.reading, line.name);
-  check.Add(line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning,
-            line.name,
-            line.hasEquals ? "nothing reads this key" : "a line without = gives no value",
-            kNoEffect, nearest.empty() ? "remove it" : "write " + nearest + " if that is meant");
+  const KeySuggestion meant = SuggestKey(check.reading, line.name, line.value);
+  const bool isCertain = line.hasEquals && meant.certainty == Certainty::Certain;
+  std::string remedy = "remove it";
+  if (meant.present != nullptr) {
+    remedy +=
+        ", as " + meant.present->name + " is in line " + std::to_string(meant.present->number);
+  } else if (!meant.key.empty()) {
+    remedy = "write " + meant.key;
+  }
+  Finding& finding = check.Add(
+      line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning, line.name,
+      line.hasEquals ? "nothing reads this key" : "a line without = gives no value", kNoEffect,
+      remedy);
+  finding.meant = meant.key;
+  if (isCertain) {
+    AddNameEdit(line, meant.key, Certainty::Certain, &finding);
+  } else if (!meant.key.empty()) {
+    finding.certainty = Certainty::Likely;
+  }
 }
 
 void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string& governor,
@@ -98,19 +86,29 @@ bool CheckMark(const Check& check) {
   const LineIndex& lines = check.reading.lines;
   const bool loads = check.reading.loads;
   if (lines.HiddenHeaderLine() == 0) return false;
-  check.Add("hidden-section", lines.HiddenHeaderLine(), loads ? Severity::Warning : Severity::Error,
-            "[printer]",
-            lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
-                            : "a byte order mark before the section hides it",
-            loads ? "its keys are not read" : "the definition does not load",
-            lines.IsUtf16() ? "save the file as UTF-16LE with a mark or in the user's encoding"
-                            : "save the file without a mark");
+  Finding& finding =
+      check.Add("hidden-section", lines.HiddenHeaderLine(),
+                loads ? Severity::Warning : Severity::Error, "[printer]",
+                lines.IsUtf16() ? "UTF-16 that does not begin with FF FE hides the section"
+                                : "a byte order mark before the section hides it",
+                loads ? "its keys are not read" : "the definition does not load",
+                lines.IsUtf16() ? "save the file as UTF-16LE with a mark or in the user's encoding"
+                                : "save the file without a mark");
+  // Where another section is read, the two would change places.
+  finding.certainty = loads ? Certainty::Likely : Certainty::Certain;
+  if (lines.IsUtf16()) {
+    finding.certainty = Certainty::Likely;
+  } else if (!loads) {
+    finding.edits = {{0, 0, 0, ""}};
+  }
   return !loads;
 }
 
 void CheckLines(const Check& check) {
-  for (const KeyLine& line : check.reading.lines.Keys())
-    CheckLine(check, line);
+  const std::set<std::size_t> judged = CheckNotation(check);
+  for (const KeyLine& line : check.reading.lines.Keys()) {
+    if (judged.count(line.number) == 0) CheckLine(check, line);
+  }
 }
 
 }  // namespace tavrin::tool

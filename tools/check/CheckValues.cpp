@@ -4,8 +4,11 @@
 #include <cwchar>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <string>
 
+#include "check/LineEdits.h"
+#include "check/NumberMeaning.h"
 #include "check/Rules.h"
 #include "definition/IntegerConversion.h"
 #include "definition/TextConversion.h"
@@ -47,19 +50,6 @@ std::wstring::const_iterator EndOfNumber(const std::wstring& field, bool isInteg
   return begin + (after - text.c_str());
 }
 
-/// Whether the text begins with a digit of another script, which may look like one of ASCII.
-bool BeginsWithForeignDigit(const std::wstring& field) {
-  // The zeros of the scripts whose digits the Windows runtime knows.
-  static constexpr wchar_t kZeros[] = {0x0660, 0x06F0, 0x0966, 0x09E6, 0x0A66, 0x0AE6,
-                                       0x0B66, 0x0C66, 0x0CE6, 0x0D66, 0x0E50, 0x0ED0,
-                                       0x0F20, 0x1040, 0x17E0, 0x1810, 0xFF10};
-  const auto first = std::find_if_not(
-      field.begin(), field.end(), [](wchar_t c) { return std::wcschr(L" \t+-", c) != nullptr; });
-  return first != field.end() &&
-         std::any_of(std::begin(kZeros), std::end(kZeros),
-                     [&](wchar_t zero) { return *first >= zero && *first <= zero + 9; });
-}
-
 /// Looks at one read.
 class ValueCheck {
  public:
@@ -76,7 +66,11 @@ class ValueCheck {
 
  private:
   void CheckLength() const;
-  void CheckField(const std::wstring& field, bool isInteger) const;
+  void CheckField(const std::wstring& field, bool isInteger, std::size_t index) const;
+  /// Says what was meant where that can be told, with the remedy.
+  bool Explain(const std::optional<NumberMeaning>& meaning, std::size_t index,
+               const std::string& effect) const;
+  WantedNumber Wanted(bool isInteger, bool isInList) const;
   void CheckSize(const std::wstring& field, double number) const;
   /// Of the code or name of a table's entry, the line of the other; null when it has none.
   const KeyLine* OtherHalf() const;
@@ -152,7 +146,7 @@ void ValueCheck::CheckLength() const {
 
 void ValueCheck::CheckFields() const {
   if (read_.kind != Kind::Text) {
-    CheckField(read_.text, read_.kind == Kind::Integer);
+    CheckField(read_.text, read_.kind == Kind::Integer, kWholeValue);
     return;
   }
   const Form form = facts_.form;
@@ -160,31 +154,57 @@ void ValueCheck::CheckFields() const {
   const bool isInteger = form == Form::Integer || form == Form::Integers;
   const std::string text = NarrowCopy(read_.text);
   std::vector<std::string> fields = {text};
-  if (form == Form::Integers || form == Form::Numbers) Split(text, &fields);
+  const bool isList = form == Form::Integers || form == Form::Numbers;
+  if (isList) Split(text, &fields);
   const std::size_t wanted = facts_.fields == 0 ? fields.size() : facts_.fields;
   const std::string count =
       "the list has " + Counted(fields.size(), "field") + " in place of " + std::to_string(wanted);
+  const bool isLong = !check_.reading.lines.IsUtf16() && text.size() > 260;
+  if (isList && !isLong &&
+      Explain(MeaningOfList(read_.text, facts_.fields, isInteger), kWholeValue,
+              fields.size() < wanted ? Outcome() : kRestHasNoEffect))
+    return;
   if (fields.size() < wanted) {
     Warn("fields-missing", count, Outcome(), "write all of them");
     return;
   }
   for (std::size_t i = 0; i < wanted; ++i)
-    CheckField(WideCopy(fields[i]), isInteger);
-  if (fields.size() > wanted) Warn("fields-beyond", count, kRestHasNoEffect, "remove the rest");
+    CheckField(WideCopy(fields[i]), isInteger, isList ? i : kWholeValue);
+  if (fields.size() > wanted)
+    Warn("fields-beyond", count, kRestHasNoEffect, "write those that are meant");
 }
 
-void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
+WantedNumber ValueCheck::Wanted(bool isInteger, bool isInList) const {
+  const std::string shape = facts_.shape;
+  const bool isSwitch = shape == "AntiAliasing" || shape == "Reverse" ||
+                        shape == "AutoCleaningEnabled" || shape == "NCUEnabled";
+  const char* off = isSwitch ? "0" : shape == "White_White" ? "100" : nullptr;
+  return {isInteger, shape == "SupportExtendAngle", isInList, off};
+}
+
+bool ValueCheck::Explain(const std::optional<NumberMeaning>& meaning, std::size_t index,
+                         const std::string& effect) const {
+  if (!meaning) return false;
+  Finding& finding =
+      Warn(meaning->rule, meaning->what, effect,
+           meaning->number.empty() ? "write the number that is meant" : "write " + meaning->number);
+  if (!meaning->number.empty() && line_ != nullptr && check_.reading.Confirms(*line_))
+    AddValueEdit(*line_, index, meaning->number, meaning->certainty, &finding);
+  return true;
+}
+
+void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size_t index) const {
   std::int32_t integer = 0;
   double number = 0.0;
   std::string written;
   const auto end = EndOfNumber(field, isInteger, &written);
   const std::string quoted = Quoted(NarrowCopy(field));
   const bool converts = isInteger ? ParseInt(field, &integer) : ParseDouble(field, &number);
-  if (!converts && BeginsWithForeignDigit(field)) {
-    Warn("digits-beyond-ascii", quoted + " has digits beyond ASCII", Outcome(),
-         "write it in the digits 0 to 9");
+  const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
+  const bool isWhole = converts && std::all_of(end, field.end(), isBlank);
+  if (!isWhole && Explain(MeaningOf(field, Wanted(isInteger, index != kWholeValue)), index,
+                          converts ? "the printer gets " + written : Outcome()))
     return;
-  }
   if (!converts) {
     const bool isNumber = !isInteger && !written.empty();
     Warn(isNumber ? "number-range" : "no-number",
@@ -198,11 +218,10 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger) const {
     return;
   }
   if (!isInteger) CheckSize(field, number);
-  const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
-  if (std::all_of(end, field.end(), isBlank)) return;
+  if (isWhole) return;
   const std::string read = Quoted(written);
   Warn("number-in-part", "only " + read + " of " + quoted + " is read", kRestHasNoEffect,
-       "write " + read + " or the number that is meant");
+       "write the number that is meant");
 }
 
 /// Numbers that are held as they are read; hosts get the build volume in whole µm modulo 2^32.

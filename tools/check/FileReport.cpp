@@ -25,7 +25,10 @@ const char* NameOf(Certainty certainty) {
 }
 
 std::string Sentence(const Finding& finding) {
-  return finding.key + ": " + finding.what + ", " + finding.effect + ", " + finding.remedy;
+  constexpr const char* kCertainties[] = {"", " (likely: look first)", " (certain)"};
+  return finding.key + ": " + finding.what + ", " + finding.effect + ", " + finding.remedy +
+         (finding.edits.empty() ? kCertainties[static_cast<std::size_t>(finding.certainty)]
+                                : " (certain: --fix does it)");
 }
 
 }  // namespace tavrin::tool

@@ -20,9 +20,9 @@ enum class Certainty {
 };
 
 /// A change of one line: count characters from column on, both as the index has the line, become
-/// text, which is ASCII.
+/// text, which is ASCII; of it a line feed is the end that the file's lines have.
 struct Edit {
-  std::size_t line;    ///< from 1
+  std::size_t line;    ///< from 1; 0: the byte order mark, which goes
   std::size_t column;  ///< from 0
   std::size_t count;
   std::string text;
@@ -40,6 +40,7 @@ struct Finding {
   std::size_t column = 0;  ///< from 1, of rules in the index's characters; 0: the line as a whole
   Certainty certainty = Certainty::None;
   std::vector<Edit> edits = {};  ///< what following the remedy changes, where it is certain
+  std::string meant = {};        ///< the key that the line was to be, if it is another one
 };
 
 using Findings = std::vector<Finding>;

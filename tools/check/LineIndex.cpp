@@ -21,32 +21,6 @@ std::string Unquoted(const std::string& value) {
   return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
-std::string TextOf(const Bytes& plain, const TextFormat& format) {
-  if (format.unitLength == 1)
-    return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
-  constexpr char kOutOfStep = '\x01';
-  const auto isAscii = [](unsigned char low, unsigned char high) {
-    return high == 0 && low < 0x80;
-  };
-  std::string text;
-  std::size_t swapped = 0;  // units in a row that are ASCII with their bytes the wrong way round
-  for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
-    const unsigned char low = plain[i + format.lowByte];
-    const unsigned char high = plain[i + 1 - format.lowByte];
-    swapped = isAscii(high, low) ? swapped + 1 : 0;
-    text += isAscii(low, high) ? static_cast<char>(low) : swapped > 2 ? kOutOfStep : '?';
-  }
-  return text;
-}
-
-std::string_view TakeLine(std::string_view* rest) {
-  const std::size_t length = std::min(rest->find_first_of("\r\n"), rest->size());
-  const std::string_view line = rest->substr(0, length);
-  rest->remove_prefix(length);
-  rest->remove_prefix(rest->substr(0, 2) == "\r\n" ? 2 : rest->empty() ? 0 : 1);
-  return line;
-}
-
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
@@ -82,11 +56,38 @@ TextFormat TextFormat::Of(const Bytes& plain) {
   return {};
 }
 
+std::string TextOf(const Bytes& plain, const TextFormat& format) {
+  if (format.unitLength == 1)
+    return std::string(plain.begin() + static_cast<std::ptrdiff_t>(format.markLength), plain.end());
+  constexpr char kOutOfStep = '\x01';
+  const auto isAscii = [](unsigned char low, unsigned char high) {
+    return high == 0 && low < 0x80;
+  };
+  std::string text;
+  std::size_t swapped = 0;  // units in a row that are ASCII with their bytes the wrong way round
+  for (std::size_t i = format.markLength; i + 1 < plain.size(); i += 2) {
+    const unsigned char low = plain[i + format.lowByte];
+    const unsigned char high = plain[i + 1 - format.lowByte];
+    swapped = isAscii(high, low) ? swapped + 1 : 0;
+    text += isAscii(low, high) ? static_cast<char>(low) : swapped > 2 ? kOutOfStep : '?';
+  }
+  return text;
+}
+
+std::string_view TakeLine(std::string_view* rest) {
+  const std::size_t length = std::min(rest->find_first_of("\r\n"), rest->size());
+  const std::string_view line = rest->substr(0, length);
+  rest->remove_prefix(length);
+  rest->remove_prefix(rest->substr(0, 2) == "\r\n" ? 2 : rest->empty() ? 0 : 1);
+  return line;
+}
+
 LineIndex::LineIndex(const Bytes& plain, const TextFormat& format, bool isKnown)
     : format_(format), isKnown_(isKnown) {
   const std::string text = TextOf(plain, format);
   std::string_view rest = text;
   while (!rest.empty()) {
+    starts_.push_back(text.size() - rest.size());
     lines_.emplace_back(TakeLine(&rest));
     AddLine(lines_.size(), lines_.back());
   }

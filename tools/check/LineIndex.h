@@ -70,6 +70,12 @@ struct TextFormat {
   static TextFormat Of(const Bytes& plain);
 };
 
+/// The text without its mark: the file's bytes, or of UTF-16 the ASCII, all else being '?'.
+std::string TextOf(const Bytes& plain, const TextFormat& format);
+
+/// Takes the first line of the rest, without its end.
+std::string_view TakeLine(std::string_view* rest);
+
 /// Says which line of a plain definition is which key. It knows the outline of the format, but not
 /// what a key means; what it says is held against what the library read.
 ///
@@ -85,6 +91,13 @@ class LineIndex {
   /// The line of the key that counts: the first in the first section of the name; null when there
   /// is none.
   const KeyLine* Find(std::string_view key) const;
+  /// Where a character of a line stands in the file; of line 0, which is the mark, the first byte.
+  ///
+  /// REQUIRES: the file has the line, and it is that long.
+  std::size_t OffsetOf(std::size_t line, std::size_t column) const {
+    return line == 0 ? 0 : format_.markLength + (starts_[line - 1] + column) * format_.unitLength;
+  }
+  const TextFormat& Format() const { return format_; }
   /// Where the section begins; 0 when it is missing.
   std::size_t HeaderLine() const { return headerLine_; }
   /// Where a section begins that the unknown format hides from the reading code; 0 for nowhere.
@@ -103,6 +116,7 @@ class LineIndex {
 
   TextFormat format_;
   bool isKnown_;
+  std::vector<std::size_t> starts_;  ///< of the lines, in characters
   std::vector<KeyLine> keys_;
   std::vector<CommentLine> comments_;
   std::map<std::string, std::size_t> counting_;  ///< by folded name, into keys_

@@ -66,7 +66,8 @@ bool IsReadOf(const WatchedRead& read, const std::string& value) {
 
 }  // namespace
 
-Reading::Reading(const Bytes& plain) : lines(IndexOf(plain)), knownKeys(ListKnownKeys()) {
+Reading::Reading(const Bytes& plainDefinition)
+    : plain(plainDefinition), lines(IndexOf(plain)), knownKeys(ListKnownKeys()) {
   const CopyToRead copy(plain);
   WatchedIni ini(copy);
   loads = config->ParseOpened(ini);

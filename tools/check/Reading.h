@@ -18,7 +18,7 @@ namespace tavrin::tool {
 
 /// What the library makes of one plain definition, watched while it reads.
 struct Reading {
-  explicit Reading(const Bytes& plain);
+  explicit Reading(const Bytes& plainDefinition);
 
   /// The read of a key; null when it was not asked for.
   const WatchedRead* Find(const std::string& key) const;
@@ -34,6 +34,7 @@ struct Reading {
   /// Whether what was read bears out what the index says of the line.
   bool Confirms(const KeyLine& line) const;
 
+  Bytes plain;
   LineIndex lines;
   std::vector<KnownKey> knownKeys;
   std::unique_ptr<PrinterConfig> config = std::make_unique<PrinterConfig>();

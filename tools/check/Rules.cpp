@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "check/Causes.h"
 #include "check/Columns.h"
 #include "check/Ignores.h"
 #include "check/RuleList.h"
@@ -61,6 +62,7 @@ Findings FindAll(const Reading& reading) {
   for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
                            CheckModes, CheckInks, CheckRanges, CheckWhole, CheckIgnores})
     rules(check);
+  FoldConsequences(reading, &findings);
   std::stable_sort(findings.begin(), findings.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });
   DropIgnored(IgnoredBy(reading.lines), &findings);

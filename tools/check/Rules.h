@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "check/Finding.h"
@@ -42,6 +43,10 @@ Findings FindAll(const Reading& reading);
 ///
 /// @return whether nothing else loads; there is then no sense in the other rules.
 bool CheckMark(const Check& check);
+/// Lines as other formats have them.
+///
+/// @return the lines of which there is nothing more to say.
+std::set<std::size_t> CheckNotation(const Check& check);
 /// The section, and what stands outside it.
 void CheckSections(const Check& check);
 /// Lines that nothing reads.

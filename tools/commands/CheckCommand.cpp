@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iostream>
 #include <map>
 #include <memory>
 #include <set>
@@ -18,6 +19,7 @@
 #include "check/RuleList.h"
 #include "check/Rules.h"
 #include "commands/CommandLine.h"
+#include "commands/FixCommand.h"
 #include "files/DefinitionFiles.h"
 #include "files/FileTransfer.h"
 #include "files/StandardStreams.h"
@@ -37,6 +39,8 @@ struct CheckOptions {
   std::string color = "auto";
   std::string format = "text";
   bool isQuiet = false;
+  bool fixes = false;
+  bool showsDifference = false;
 };
 
 void CheckContainer(const Check& check, Container container, const std::string& wanted) {
@@ -66,8 +70,14 @@ Findings FindingsIn(const DefinitionReading& definition, const CheckOptions& opt
 void CheckFile(const std::string& file, const CheckOptions& options, FileReports* reports) {
   FileReport report = {file};
   try {
+    if (options.fixes && file == "-")
+      throw Failure("standard input", "cannot be changed in place", "name a file or take --diff");
+    const Bytes bytes = file == "-" ? ReadStandardInput() : ReadFile(file);
+    // What programs read is not to be mixed with it.
+    std::ostream& out = options.format == "text" ? std::cout : std::cerr;
     const DefinitionReading definition =
-        ReadDefinition(file == "-" ? ReadStandardInput() : ReadFile(file));
+        options.fixes ? FixInPlace(file, bytes, out) : ReadDefinition(bytes);
+    if (options.showsDifference) PreviewFix(file, definition.reading, out);
     report.container = definition.container;
     report.findings = FindingsIn(definition, options);
   } catch (const std::exception& error) {
@@ -111,7 +121,8 @@ ExitStatus CheckFiles(const CheckOptions& options) {
   FileReports reports;
   for (const std::string& file : options.files)
     CheckFileOrDirectory(file, options, &reports);
-  if (!options.isQuiet) PrintText(Output(reports, options));
+  std::cout.flush();
+  if (!options.isQuiet && !options.showsDifference) PrintText(Output(reports, options));
   ExitStatus status = ExitStatus::NothingToReport;
   for (const FileReport& report : reports)
     status = std::max(status, report.Status());
@@ -153,6 +164,14 @@ void AddCheck(CLI::App* app, ExitStatus* status) {
             "Whether severities are coloured; auto: on a terminal, unless NO_COLOR is\n"
             "set or TERM is dumb");
   command->add_flag("--quiet", options->isQuiet, "Print no findings; the exit status tells");
+  CLI::Option* fix = command->add_flag(
+      "--fix", options->fixes,
+      "Follow the remedies that are certain, in the files themselves, and print what\n"
+      "that changes");
+  command
+      ->add_flag("--diff", options->showsDifference,
+                 "Print what --fix would change, in place of findings; change nothing")
+      ->excludes(fix);
   command->footer(
       "A finding is a line file:line:column: severity: key: what happened, what the printer\n"
       "gets instead, what to do [id]. An error keeps the definition from loading or a query\n"
