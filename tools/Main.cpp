@@ -33,7 +33,7 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddEncipher(&app);
   tavrin::tool::AddDecipher(&app);
   tavrin::tool::AddShow(&app);
-  tavrin::tool::AddKeys(&app, &status);
+  tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);
   try {

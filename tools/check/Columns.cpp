@@ -51,19 +51,19 @@ std::size_t ColumnOf(const Reading& reading, const Finding& finding, const KeyLi
 }  // namespace
 
 void PlaceColumns(const Reading& reading, Findings* findings) {
-  const auto& keys = reading.lines.Keys();
+  const LineIndex& lines = reading.lines;
+  const auto& keys = lines.Keys();
   for (Finding& finding : *findings) {
     const auto line = std::lower_bound(
         keys.begin(), keys.end(), finding.line,
         [](const KeyLine& key, std::size_t number) { return key.number < number; });
-    if (line == keys.end() || line->number != finding.line) continue;
-    if (finding.column == 0) {
-      if (Shortened(line->name) != finding.key && Folded(line->name) != Folded(finding.key))
-        continue;
-      finding.column = ColumnOf(reading, finding, *line) + 1;
-    }
-    const std::string before = line->text.substr(0, finding.column - 1);
-    finding.column = (reading.lines.IsUtf16() ? before.size() : CountCharacters(before)) + 1;
+    const bool isOfKey =
+        line != keys.end() && line->number == finding.line &&
+        (Shortened(line->name) == finding.key || Folded(line->name) == Folded(finding.key));
+    if (finding.column == 0 && isOfKey) finding.column = ColumnOf(reading, finding, *line) + 1;
+    if (finding.column == 0 || lines.IsUtf16() || finding.line > lines.Lines().size()) continue;
+    const std::string before = lines.Lines()[finding.line - 1].substr(0, finding.column - 1);
+    finding.column = CountCharacters(before) + 1;
   }
 }
 

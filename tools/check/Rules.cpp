@@ -59,8 +59,8 @@ Findings FindAll(const Reading& reading) {
   Findings findings;
   const Check check{reading, &findings};
   if (CheckMark(check)) return findings;
-  for (const auto rules : {CheckIgnores, CheckSections, CheckLines, CheckValues, CheckTexts,
-                           CheckPrinter, CheckModes, CheckInks, CheckRanges, CheckWhole})
+  for (const auto rules : {CheckSections, CheckLines, CheckValues, CheckTexts, CheckPrinter,
+                           CheckModes, CheckInks, CheckRanges, CheckWhole, CheckIgnores})
     rules(check);
   FoldConsequences(reading, &findings);
   std::stable_sort(findings.begin(), findings.end(),

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iomanip>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -11,12 +10,12 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Failure.h"
 #include "Spelling.h"
 #include "check/LineIndex.h"
 #include "check/Rules.h"
 #include "commands/CommandLine.h"
 #include "files/FileTransfer.h"
-#include "files/TextForms.h"
 #include "keys/KeyFacts.h"
 #include "keys/KeyText.h"
 
@@ -127,7 +126,7 @@ std::string NearestShape(const std::string& name) {
       ->shape;
 }
 
-ExitStatus PrintKeys(const KeysOptions& options) {
+void PrintKeys(const KeysOptions& options) {
   std::vector<const KeyFacts*> keys;
   if (!options.key) {
     for (const KeyFacts& facts : ListKeyFacts())
@@ -135,9 +134,9 @@ ExitStatus PrintKeys(const KeysOptions& options) {
   } else if (const KeyFacts* facts = FindKey(*options.key)) {
     keys.push_back(facts);
   } else {
-    std::cerr << "tavrin: " << Printable(Quoted(*options.key)) << ": no key has this name, the "
-              << "nearest is " << NearestShape(*options.key) << " (tavrin keys prints them all)\n";
-    return ExitStatus::Usage;
+    throw Failure(Quoted(*options.key),
+                  "no key has this name, the nearest is " + NearestShape(*options.key),
+                  "tavrin keys prints them all", ExitStatus::Usage);
   }
   if (options.format == "json") {
     nlohmann::ordered_json objects = nlohmann::ordered_json::array();
@@ -147,12 +146,11 @@ ExitStatus PrintKeys(const KeysOptions& options) {
   } else {
     PrintText(!options.key ? Overview(keys) : Description(*keys.front()));
   }
-  return ExitStatus::NothingToReport;
 }
 
 }  // namespace
 
-void AddKeys(CLI::App* app, ExitStatus* status) {
+void AddKeys(CLI::App* app) {
   const auto options = std::make_shared<KeysOptions>();
   CLI::App* command =
       app->add_subcommand("keys", "Print what there is to know of the keys of a definition");
@@ -166,7 +164,7 @@ void AddKeys(CLI::App* app, ExitStatus* status) {
       "is said; tavrin check warns of them, and of those that no printer can use.\n\n"
       "Example: tavrin keys Mode1SliceSize\n"
       "         tavrin keys --format=json");
-  command->callback([options, status] { *status = PrintKeys(*options); });
+  command->callback([options] { PrintKeys(*options); });
 }
 
 }  // namespace tavrin::tool

@@ -2,12 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-#include "ExitStatus.h"
-
 namespace tavrin::tool {
 
-/// Adds the command keys, which prints what there is to know of the keys of a definition. After it
-/// has run, status is 0, or 4 when it was asked for a key that there is not.
-void AddKeys(CLI::App* app, ExitStatus* status);
+/// Adds the command keys, which prints what there is to know of the keys of a definition.
+void AddKeys(CLI::App* app);
 
 }  // namespace tavrin::tool
