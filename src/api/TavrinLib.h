@@ -21,8 +21,7 @@
 ///    locale category LC_CTYPE to the user's.
 /// 6. Null. Output pointers must not be null, except where a function documents its answer.
 /// 7. Threads. None is kept from another. Call from one thread at a time, and never initialise or
-/// finalise
-///    while another call runs.
+///    finalise while another call runs.
 /// 8. Life. Answers are copied out and stay the caller's. The one exception is the #InkSlot of
 ///    TavrinGetInkSlot(), which the library owns: it is gone after TavrinFinalize() or the next
 ///    TavrinInitialize().

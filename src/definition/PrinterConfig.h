@@ -25,8 +25,7 @@ class PrinterConfig : public InkModel {
   /// removed whatever the outcome.
   ///
   /// @return false when the file is missing, empty or unreadable, or has no "Version", when there
-  /// is
-  ///         no plain copy to parse, and when on Windows another process had it for ten seconds.
+  ///         is no plain copy to parse, and when on Windows another process had it for ten seconds.
   virtual bool Load(const std::string& path);
 
   /// Reads the plain definition file at path.

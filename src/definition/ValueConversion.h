@@ -19,9 +19,8 @@ bool ParseInt(std::wstring_view text, std::int32_t* value);
 /// process's numeric locale: a full stop unless the host changed it. A point beyond ASCII, as a few
 /// locales have it, ends the number. Every NaN is the same one.
 ///
-/// @return false, value untouched, when there is no number, or one that as a double is infinite or
-/// 0
-///         though its digits are not: runtimes differ in what they say of those in between.
+/// @return false, value untouched, when there is no number, or one that as a double is infinite,
+///         or 0, though its digits are not: runtimes differ in what they say of those in between.
 bool ParseDouble(std::string_view text, double* value);
 bool ParseDouble(std::wstring_view text, double* value);
 
