@@ -13,6 +13,18 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/directory)
 file(COPY ${PROJECT}/examples/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
 
+# The same with a file as standard input.
+macro(run_with input)
+  set(ENV{TAVRIN_WINE_INPUT} 1)
+  execute_process(COMMAND ${TOOL} ${ARGN} WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/${input}
+    RESULT_VARIABLE result OUTPUT_FILE ${WORK}/output ERROR_FILE ${WORK}/message)
+  unset(ENV{TAVRIN_WINE_INPUT})
+  file(READ ${WORK}/output output)
+  file(READ ${WORK}/message message)
+  string(REPLACE "\r\n" "\n" output "${output}")
+  string(REPLACE "\r\n" "\n" message "${message}")
+endmacro()
+
 macro(succeed)
   run(${ARGN})
   check("tavrin ${ARGN}" result EQUAL 0 AND NOT message)
@@ -92,10 +104,7 @@ expect_shown("Model name 5RTV-207" "Width 508.000 mm" "Number of modes 0"
 # Plain or enciphered, a file or standard input: the same is read.
 set(shown "${output}")
 foreach(definition minimal.ini minimal.dat)
-  execute_process(COMMAND ${TOOL} show - WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/${definition}
-    OUTPUT_FILE ${WORK}/output)
-  file(READ ${WORK}/output output)
-  string(REPLACE "\r\n" "\n" output "${output}")
+  run_with(${definition} show -)
   check("show of standard input" output STREQUAL shown)
 endforeach()
 refuse(4 "standard input: is named more than once" show - -)
