@@ -262,6 +262,8 @@ check("left behind: ${leftovers}" NOT leftovers)
 
 include(${CMAKE_CURRENT_LIST_DIR}/CheckTest.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/CheckDocumentTest.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/EditTest.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/DiffTest.cmake)
 
 # Each spelling of a key finds it, and what is printed is in the table.
 foreach(key "Mode#SliceSize" modensliceSIZE Mode12SliceSize)

@@ -94,7 +94,7 @@ class FactLister {
       isAnswered = isAnswered && text->size() <= kLongestIdentity;
       Add(field, *text).isHandedOut = isAnswered;
     }
-    Add("Query answered", isAnswered);
+    Add("Query answered", isAnswered, Unit::YesNo);
   }
 
   void ListBuildVolume() {
@@ -114,7 +114,7 @@ class FactLister {
       Add("slice", std::int64_t{mode->SliceSize}, Unit::Micrometres);
       AddNumber("first value", mode->FirstValue);
       AddNumber("second value", mode->SecondValue);
-      Add("limited", mode->Limited);
+      Add("limited", mode->Limited, Unit::YesNo);
       Add("continuous limit", mode->LimitedContinuous == -1
                                   ? Fact::Value()
                                   : Fact::Value(std::int64_t{mode->LimitedContinuous}));
@@ -156,6 +156,8 @@ class FactLister {
   }
 
   void ListSlots() {
+    Begin(Group::Slots);
+    AddCause("Slots", hidden_.hasBuiltInSlots);
     for (const auto& slot : config_.InkSlots) {
       Begin(Group::Slots, "Slot " + std::to_string(slot->GetSlotNumber()));
       const auto color = static_cast<std::int32_t>(slot->ColorCode());
@@ -166,8 +168,6 @@ class FactLister {
       Add("codes of colour and ink type", std::vector<std::int64_t>{color, inkType}).role =
           Role::Detail;
     }
-    Begin(Group::Slots);
-    AddCause("Slots", hidden_.hasBuiltInSlots);
   }
 
   void ListCategories() {
@@ -187,12 +187,12 @@ class FactLister {
 
   void ListTable(const std::string& item, const std::string& plural,
                  const std::vector<InkEntryFacts>& table, bool isBuiltIn) {
+    Begin(Group::Tables);
+    AddCause("Table of " + plural, isBuiltIn);
     for (const InkEntryFacts& entry : table) {
       Begin(Group::Tables, item + ' ' + std::to_string(entry.code));
       Add("", entry.name).isHandedOut = !entry.slots.empty();
     }
-    Begin(Group::Tables);
-    AddCause("Table of " + plural, isBuiltIn);
   }
 
   void AddCause(const std::string& field, bool isBuiltIn) {
@@ -226,7 +226,7 @@ const char* NameOf(Fact::Group group) {
 }
 
 const char* NameOf(Fact::Unit unit) {
-  constexpr const char* kNames[] = {"", "um", "mm", "degrees"};
+  constexpr const char* kNames[] = {"", "um", "mm", "degrees", ""};
   return kNames[static_cast<std::size_t>(unit)];
 }
 
@@ -235,7 +235,9 @@ std::string TextOf(const Fact::Value& value, Fact::Unit unit) {
     Unit unit;
 
     std::string operator()(std::monostate) const { return "none"; }
-    std::string operator()(bool isOn) const { return isOn ? "on" : "off"; }
+    std::string operator()(bool isOn) const {
+      return unit == Unit::YesNo ? (isOn ? "yes" : "no") : (isOn ? "on" : "off");
+    }
     std::string operator()(std::int64_t number) const {
       return unit == Unit::Micrometres ? LengthText(number) : std::to_string(number);
     }

@@ -13,7 +13,7 @@ namespace tavrin::tool {
 /// be held against each other.
 struct Fact {
   enum class Group { Identity, BuildVolume, Modes, Support, Machine, Slots, Categories, Tables };
-  enum class Unit { None, Micrometres, Millimetres, Degrees };
+  enum class Unit { None, Micrometres, Millimetres, Degrees, YesNo };
   enum class Role {
     Plain,
     Detail,  ///< follows from others as a rule: people are told only where nothing else changed
