@@ -37,4 +37,23 @@ if(TARGET tavrin)
     /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
   set_target_properties(tavrin PROPERTIES INSTALL_RPATH $ORIGIN/${lib_from_bin})
   install(TARGETS tavrin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+
+  # The documents that its help names, with what these and the README name in turn.
+  install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+  install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+  install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.ini")
+
+  if(TARGET tavrin_manual)
+    get_target_property(tools_dir tavrin BINARY_DIR)
+    install(DIRECTORY ${tools_dir}/manual/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  endif()
+  if(NOT WIN32)
+    set(completions ${PROJECT_SOURCE_DIR}/tools/completions)
+    install(FILES ${completions}/tavrin.bash RENAME tavrin
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    install(FILES ${completions}/_tavrin DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+    install(FILES ${completions}/tavrin.fish
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+  endif()
 endif()
