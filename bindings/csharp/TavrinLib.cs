@@ -1,5 +1,6 @@
 // What a full-colour 3D inkjet printer can do, for C# on .NET Framework, .NET and Mono: this one file
-// over the shared library, for programs of 64 bits. docs/binary-contract.md describes what it relies on.
+// over the shared library (TavrinLib.dll, libTavrinLib.so), for programs of 64 bits.
+// docs/binary-contract.md describes what it relies on.
 //
 //     using (var printer = new Tavrin.Session("printer.dat"))
 //       foreach (var slot in printer.Slots)
@@ -18,9 +19,9 @@ namespace Tavrin {
 /// <summary>The library's last-error codes.</summary>
 public enum ErrorCode : uint { None, Failed, NotInitialized, WriteFailed, InvalidArgument }
 
-/// <summary>A call that failed, and why.</summary>
-public sealed class TavrinException : Exception {
-  internal TavrinException(string call, ErrorCode code) : base($"{call} failed: Error{code}") {
+/// <summary>A call that failed; the message says why.</summary>
+public class TavrinException : Exception {
+  internal TavrinException(string call, ErrorCode code, string reason) : base(reason) {
     Call = call;
     Code = code;
   }
@@ -28,6 +29,43 @@ public sealed class TavrinException : Exception {
   public string Call { get; }
   /// <summary>The last-error code that it left.</summary>
   public ErrorCode Code { get; }
+
+  internal static TavrinException Of(string call, ErrorCode code) {
+    switch (code) {
+      case ErrorCode.NotInitialized: return new NotOpenException(call);
+      case ErrorCode.WriteFailed: return new WriteException(call);
+      default: return new TavrinException(call, code, $"{call} failed: {code}");
+    }
+  }
+}
+
+/// <summary>The definition file does not load. No session is open then.</summary>
+public sealed class LoadException : TavrinException {
+  internal LoadException(string path, ErrorCode code)
+      : base(nameof(Native.TavrinInitialize), code, $"{path}: {ReasonOf(path)}") {}
+
+  private static string ReasonOf(string path) {
+    try {
+      using (var file = File.OpenRead(path))
+        if (file.ReadByte() < 0) return "is empty";
+    } catch (Exception error) when (error is IOException || error is UnauthorizedAccessException) {
+      return error.Message;
+    }
+    return "is no enciphered printer definition with a Version, or its plain copy cannot be written " +
+           "to the temporary directory";
+  }
+}
+
+/// <summary>The session was disposed of, or another one has taken its place.</summary>
+public sealed class NotOpenException : TavrinException {
+  internal NotOpenException(string call)
+      : base(call, ErrorCode.NotInitialized, $"{call}: the session is no longer open") {}
+}
+
+/// <summary>The modeling conditions file cannot be opened for writing.</summary>
+public sealed class WriteException : TavrinException {
+  internal WriteException(string call)
+      : base(call, ErrorCode.WriteFailed, $"{call}: the file cannot be opened for writing") {}
 }
 
 /// <summary>Who the printer is.</summary>
@@ -64,6 +102,28 @@ public sealed class PrintMode {
   public int? LimitedContinuous { get; internal set; }
 }
 
+/// <summary>The support that carries a model; what stands beside it is Session.SideSupport.</summary>
+public sealed class Support {
+  /// <summary>Under top surfaces, in µm.</summary>
+  public int TopThickness { get; internal set; }
+  /// <summary>Between model and build plate, in µm.</summary>
+  public int DetachLayerHeight { get; internal set; }
+  /// <summary>From -2, the smallest, to 6.</summary>
+  public int SizeCode { get; internal set; }
+}
+
+/// <summary>What is on and what is off.</summary>
+public sealed class Switches {
+  /// <summary>Edges are smoothed.</summary>
+  public bool Smoothing { get; internal set; }
+  /// <summary>The printer prints in both directions of the feed.</summary>
+  public bool FeedBiDirection { get; internal set; }
+  public bool WrapReduction { get; internal set; }
+  /// <summary>The heads are cleaned by themselves.</summary>
+  public bool AutoCleaning { get; internal set; }
+  public bool CheckNozzleWhilePrinting { get; internal set; }
+}
+
 /// <summary>An ink position of the printer. One that is not valid has the codes 0.</summary>
 public sealed class Slot {
   /// <summary>From 1.</summary>
@@ -78,10 +138,19 @@ public sealed class Slot {
   public bool Valid { get; internal set; }
 }
 
+/// <summary>Ink slots that count as one ink. The last two categories are all model ink and all ink.
+/// </summary>
+public sealed class Category {
+  /// <summary>From 0.</summary>
+  public int Index { get; internal set; }
+  /// <summary>May be empty.</summary>
+  public IReadOnlyList<int> SlotNumbers { get; internal set; }
+}
+
 /// <summary>
 /// A loaded printer definition. The library holds one for the process, so there is one open session:
 /// making another ends the one before, also where the new definition then fails to load. An ended
-/// session throws with NotInitialized. Calls of all threads follow one another; while a definition
+/// session throws NotOpenException. Calls of all threads follow one another; while a definition
 /// loads, the calling thread's numbers are those of the "C" locale.
 /// </summary>
 public sealed class Session : IDisposable {
@@ -93,7 +162,8 @@ public sealed class Session : IDisposable {
 
   private readonly TextDecoder decoder;
 
-  /// <summary>Loads the enciphered printer definition file at path.</summary>
+  /// <summary>Loads the enciphered printer definition file at path; LoadException where that fails.
+  /// </summary>
   public Session(string path) {
     lock (Gate) {
       using (var native = new NativePath(path))
@@ -101,7 +171,7 @@ public sealed class Session : IDisposable {
         decoder = new TextDecoder();
         open = null;
         if (!Native.TavrinInitialize(native.Bytes))
-          throw new TavrinException(nameof(Native.TavrinInitialize), LastError());
+          throw new LoadException(path, LastError());
         open = this;
       }
     }
@@ -160,48 +230,50 @@ public sealed class Session : IDisposable {
   /// <summary>The number, not the position, of the mode to offer first. None need have it.</summary>
   public int DefaultMode => Number(Native.TavrinGetDefaultPrintMode);
 
-  /// <summary>The support under top surfaces, in µm.</summary>
-  public int TopSupportThickness => Number(Native.TavrinGetTopSupportThickness);
+  /// <summary>The support under a model.</summary>
+  public Support Support {
+    get {
+      lock (Gate)
+        return new Support {
+          TopThickness = Number(Native.TavrinGetTopSupportThickness),
+          DetachLayerHeight = Number(Native.TavrinGetDetachLayerHeight),
+          SizeCode = Number(Native.TavrinGetSupportSize),
+        };
+    }
+  }
 
-  /// <summary>The support beside a model of that height, both in µm.</summary>
-  public int SideSupportThickness(int modelHeight) =>
+  /// <summary>The thickness of the support beside a model of that height, both in µm.</summary>
+  public int SideSupport(int modelHeight) =>
       Number((out int value) => Native.TavrinGetSideSupportThickness(modelHeight, out value),
              nameof(Native.TavrinGetSideSupportThickness));
-
-  /// <summary>The layer between model and build plate, in µm.</summary>
-  public int DetachLayerHeight => Number(Native.TavrinGetDetachLayerHeight);
-
-  /// <summary>The support size code, from -2, the smallest, to 6.</summary>
-  public int SupportSize => Number(Native.TavrinGetSupportSize);
 
   /// <summary>The number of the cutting margin setting, 0 for none. Not a thickness.</summary>
   public int ChippingAllowance => Number(Native.TavrinGetChippingAllowance);
 
-  /// <summary>Whether edges are smoothed.</summary>
-  public bool Smoothing => Switch(Native.TavrinGetSmoothing);
-
-  /// <summary>Whether the printer prints in both directions of the feed.</summary>
-  public bool FeedBiDirection => Switch(Native.TavrinGetFeedBiDirection);
-
-  /// <summary>Whether wrap reduction is on.</summary>
-  public bool WrapReduction => Switch(Native.TavrinGetWrapReduction);
-
-  /// <summary>Whether the printer cleans its heads by itself.</summary>
-  public bool AutoCleaning => Switch(Native.TavrinGetAutoCleaning);
-
-  /// <summary>Whether the nozzles are checked while printing.</summary>
-  public bool CheckNozzleWhilePrinting => Switch(Native.TavrinGetCheckNozzleWhilePrinting);
+  /// <summary>What is on and what is off.</summary>
+  public Switches Switches {
+    get {
+      lock (Gate)
+        return new Switches {
+          Smoothing = Switch(Native.TavrinGetSmoothing),
+          FeedBiDirection = Switch(Native.TavrinGetFeedBiDirection),
+          WrapReduction = Switch(Native.TavrinGetWrapReduction),
+          AutoCleaning = Switch(Native.TavrinGetAutoCleaning),
+          CheckNozzleWhilePrinting = Switch(Native.TavrinGetCheckNozzleWhilePrinting),
+        };
+    }
+  }
 
   /// <summary>The ink slots, in the order of their numbers.</summary>
   public IReadOnlyList<Slot> Slots => List(Native.TavrinGetItemCountOfInkSlot, 1, SlotOf);
 
-  /// <summary>The numbers of the slots of each ink category; the last two are all model ink and all
-  /// ink. One may be empty.</summary>
-  public IReadOnlyList<IReadOnlyList<int>> Categories =>
-      List<IReadOnlyList<int>>(Native.TavrinGetItemCountOfInkCategory, 0, Category);
+  /// <summary>The ink categories, the two totals last.</summary>
+  public IReadOnlyList<Category> Categories =>
+      List(Native.TavrinGetItemCountOfInkCategory, 0, CategoryOf);
 
-  /// <summary>Writes the definition, byte for byte as it was loaded, to the file at path. Fails with
-  /// WriteFailed where it cannot be opened; an error after that goes unreported.</summary>
+  /// <summary>Writes the definition, byte for byte as it was loaded, to the file at path.
+  /// WriteException where it cannot be opened; an error after that, such as a full disk, goes
+  /// unreported.</summary>
   public void WriteModelingConditions(string path) {
     using (var native = new NativePath(path))
       Ask(nameof(Native.TavrinCreateModelingConditionsFile),
@@ -218,8 +290,8 @@ public sealed class Session : IDisposable {
 
   private void Ask(string name, Func<bool> call) {
     lock (Gate) {
-      if (!IsOpen) throw new TavrinException(name, ErrorCode.NotInitialized);
-      if (!call()) throw new TavrinException(name, LastError());
+      if (!IsOpen) throw new NotOpenException(name);
+      if (!call()) throw TavrinException.Of(name, LastError());
     }
   }
 
@@ -288,9 +360,13 @@ public sealed class Session : IDisposable {
     }
   }
 
-  private IReadOnlyList<int> Category(int index) {
+  private Category CategoryOf(int index) => new Category {
+    Index = index, SlotNumbers = SlotNumbers(index),
+  };
+
+  private static int[] SlotNumbers(int category) {
     // One without slots answers false.
-    if (!Native.TavrinGetInkSlotNumConposeInkCategory(index, out IntPtr array, out int count))
+    if (!Native.TavrinGetInkSlotNumConposeInkCategory(category, out IntPtr array, out int count))
       return new int[0];
     try {
       var numbers = new int[count];

@@ -39,6 +39,6 @@ foreach(name full-colour compact minimal numbers)
 endforeach()
 
 run(${MONO} Sample.exe missing conditions)
-check("a missing definition" result EQUAL 1 AND message MATCHES "^TavrinInitialize failed: ErrorF")
+check("a missing definition" result EQUAL 1 AND message MATCHES "^missing: .*Could not find")
 run(${MONO} Facts.exe "Gerät full-colour.def" "Gerät compact.def")
 check("sessions" result EQUAL 0 AND NOT output AND NOT message)

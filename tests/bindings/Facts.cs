@@ -39,20 +39,21 @@ internal static class Facts {
           mode.Limited, "continuousLimit", mode.LimitedContinuous)),
       "defaultModeNumber", p.DefaultMode,
       "support", Part(
-          "topThicknessUm", p.TopSupportThickness,
+          "topThicknessUm", p.Support.TopThickness,
           "sideThicknesses", List(new[] { 10000, 50000, 100000 }, (height, index) => Members(
-              "modelHeightUm", height, "thicknessUm", p.SideSupportThickness(height))),
-          "detachLayerUm", p.DetachLayerHeight, "sizeCode", p.SupportSize),
+              "modelHeightUm", height, "thicknessUm", p.SideSupport(height))),
+          "detachLayerUm", p.Support.DetachLayerHeight, "sizeCode", p.Support.SizeCode),
       "machine", Part(
-          "smoothing", p.Smoothing, "feedBiDirection", p.FeedBiDirection, "wrapReduction",
-          p.WrapReduction, "autoCleaning", p.AutoCleaning, "checkNozzleWhilePrinting",
-          p.CheckNozzleWhilePrinting, "headBandMm", p.HeadBandMm, "chippingAllowanceSetting",
-          p.ChippingAllowance),
+          "smoothing", p.Switches.Smoothing, "feedBiDirection", p.Switches.FeedBiDirection,
+          "wrapReduction", p.Switches.WrapReduction, "autoCleaning", p.Switches.AutoCleaning,
+          "checkNozzleWhilePrinting", p.Switches.CheckNozzleWhilePrinting, "headBandMm",
+          p.HeadBandMm, "chippingAllowanceSetting", p.ChippingAllowance),
       "inkSlots", List(p.Slots, (slot, index) => Members(
           "number", slot.Number, "colorCode", slot.ColorCode, "inkTypeCode", slot.InkTypeCode,
           "inkId", slot.InkId, "inkName", slot.InkName, "valid", slot.Valid)),
-      "inkCategories", List(p.Categories, (slots, index) => Members(
-          "index", index, "slotNumbers", List(slots, (number, i) => Json(number)))));
+      "inkCategories", List(p.Categories, (category, index) => Members(
+          "index", category.Index, "slotNumbers",
+          List(category.SlotNumbers, (number, i) => Json(number)))));
 
   private static void Expect(string what, bool holds) {
     if (!holds) Console.WriteLine($"wrong: {what}");

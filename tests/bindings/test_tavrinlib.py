@@ -71,6 +71,12 @@ def test_prints_what_the_tool_shows(make, name, environment):
         assert json.loads(printed.stdout) == json.loads(shown.stdout)
 
 
+def test_a_mistake_in_the_command_line_has_the_status_of_the_tool():
+    printed = python("-m", "tavrinlib", "--mistake")
+    assert printed.returncode == subprocess.run([TOOL, "show", "--mistake"]).returncode == 4
+    assert printed.stderr.startswith("usage: ")
+
+
 def test_answers_in_values(make):
     with tavrinlib.Session(make("full-colour")) as printer:
         assert printer.identity == tavrinlib.PrinterIdentity("Tavrin FC-500", "2.4.1", "192.0.2.50")

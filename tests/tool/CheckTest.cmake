@@ -3,6 +3,11 @@
 # its own where its encoding (the code page 1252) or its reading of byte order marks differs.
 set(CASES ${PROJECT}/tests/data/check)
 file(COPY ${CASES}/ DESTINATION ${WORK})
+# Wine reads one byte beyond a UTF-16 file that ends within a character, whatever that byte is.
+set(UNSTEADY)
+if(TOOL MATCHES "wine-run")
+  set(UNSTEADY cut-off-utf16.ini damaged-utf16.ini)
+endif()
 set(ENV{LC_ALL} C.UTF-8)
 
 # Columns and ids have tests of their own.
@@ -28,6 +33,7 @@ function(expect_findings status threshold)
 endfunction()
 
 file(GLOB definitions RELATIVE ${CASES} ${CASES}/*.ini)
+list(REMOVE_ITEM definitions ${UNSTEADY})
 set(notes ${definitions})
 list(FILTER definitions EXCLUDE REGEX "^note-")
 list(FILTER notes INCLUDE REGEX "^note-")
@@ -48,7 +54,9 @@ endforeach()
 # bytes but for what was mistaken.
 file(MAKE_DIRECTORY ${WORK}/fixed)
 file(COPY ${CASES}/ DESTINATION ${WORK}/fixed FILES_MATCHING PATTERN "*.ini")
-file(GLOB to_fix RELATIVE ${WORK} ${WORK}/fixed/*.ini)
+file(GLOB to_fix RELATIVE ${WORK}/fixed ${WORK}/fixed/*.ini)
+list(REMOVE_ITEM to_fix ${UNSTEADY})
+list(TRANSFORM to_fix PREPEND fixed/)
 run(check --fix ${to_fix})
 check("nothing fixed" output MATCHES "\\+PrintMargin=53\\.7\n")
 check("what the printer gets" output MATCHES

@@ -6,7 +6,7 @@ import argparse
 import json
 import math
 import sys
-from typing import Any, Optional
+from typing import Any, NoReturn, Optional
 
 from . import Session, TavrinError
 
@@ -85,10 +85,16 @@ def facts(printer: Session) -> dict[str, Any]:
     }
 
 
+class _Parser(argparse.ArgumentParser):
+    def error(self, message: str) -> NoReturn:
+        self.print_usage(sys.stderr)
+        self.exit(4, f"{self.prog}: {message}\n")
+
+
 def main() -> int:
     """The exit status, as the tool's: 2 where the definition does not load or a text is too long,
-    3 where the file cannot be read."""
-    parser = argparse.ArgumentParser("python3 -m tavrinlib", description=__doc__)
+    3 where the file cannot be read, 4 for a mistake in the command line."""
+    parser = _Parser("python3 -m tavrinlib", description=__doc__)
     parser.add_argument("definition", help="the printer definition file")
     arguments = parser.parse_args()
     try:
