@@ -32,7 +32,7 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddCheck(&app, &status);
   tavrin::tool::AddEncipher(&app);
   tavrin::tool::AddDecipher(&app);
-  tavrin::tool::AddShow(&app);
+  tavrin::tool::AddShow(&app, &status);
   tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);

@@ -13,6 +13,18 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/directory)
 file(COPY ${PROJECT}/examples/ DESTINATION ${WORK} FILES_MATCHING PATTERN "*.ini")
 
+# The same with a file as standard input.
+macro(run_with input)
+  set(ENV{TAVRIN_WINE_INPUT} 1)
+  execute_process(COMMAND ${TOOL} ${ARGN} WORKING_DIRECTORY ${WORK} INPUT_FILE ${WORK}/${input}
+    RESULT_VARIABLE result OUTPUT_FILE ${WORK}/output ERROR_FILE ${WORK}/message)
+  unset(ENV{TAVRIN_WINE_INPUT})
+  file(READ ${WORK}/output output)
+  file(READ ${WORK}/message message)
+  string(REPLACE "\r\n" "\n" output "${output}")
+  string(REPLACE "\r\n" "\n" message "${message}")
+endmacro()
+
 macro(succeed)
   run(${ARGN})
   check("tavrin ${ARGN}" result EQUAL 0 AND NOT message)
@@ -89,6 +101,27 @@ succeed(show minimal.dat)
 expect_shown("Model name 5RTV-207" "Width 508.000 mm" "Number of modes 0"
   "Default mode number 2 \\(no mode has it\\)" "Chipping allowance none")
 
+# Plain or enciphered, a file or standard input: the same is read.
+set(shown "${output}")
+foreach(definition minimal.ini minimal.dat)
+  run_with(${definition} show -)
+  check("show of standard input" output STREQUAL shown)
+endforeach()
+refuse(4 "standard input: is named more than once" show - -)
+refuse(3 "missing: does not exist" show minimal.dat missing minimal.ini)
+check("several files, one of them missing" output STREQUAL
+  "== minimal.dat ==\n\n${shown}\n== minimal.ini ==\n\n${shown}")
+succeed(show --all full-colour.ini)
+expect_shown("Support extent 2.000 mm" "Cutting margin thickness 0.400 mm"
+  "Colour thickness of mode 10 0.800 mm" " 30 Light Cyan none" " 202 SB-100 1, 2"
+  "Name of category 1 MB-120 Clear")
+file(WRITE ${WORK}/left-out.ini
+  "[printer]\nVersion=1\nMode=1,2\nMode1SliceSize=1\nMode1ColorThickness=1\nMode1=1,1\n"
+  "NumOfColor=1\nColor001Code=56\nPrinterInkSlotNum=1\nColorCodeInkSlot1=56\n")
+succeed(show --all left-out.ini)
+expect_shown("Modes left out 2" "Ink slots built in" "Table of colours" "None the definition's entries are incomplete"
+  "Table of ink types, built in")
+
 string(ASCII 27 escape)
 string(REPEAT a 129 long)
 file(WRITE ${WORK}/long.ini "[printer]\nModelName=${escape}[2J\nVersion=1\nIPAddress=${long}\n")
@@ -122,11 +155,19 @@ expect_json(NUMBER 50000 support sideThicknesses 1 modelHeightUm)
 check("JSON: head band" output MATCHES "\"headBandMm\": 53.7,")
 expect_json(STRING "MB-120 Clear" inkSlots 2 inkName)
 expect_json(NUMBER 8 inkCategories 8 slotNumbers 7)
+succeed(show --all --format=json full-colour.ini minimal.dat)
+expect_json(STRING minimal.dat 1 file)
+expect_json(BOOLEAN OFF 0 notHandedOut builtInSlots)
+expect_json(BOOLEAN ON 1 notHandedOut builtInSlots)
+expect_json(NUMBER 400 0 notHandedOut cuttingMarginThicknessUm)
+expect_json(NUMBER 300 0 notHandedOut colorThicknessesUm 3)
+expect_json(STRING "Light Cyan" 0 notHandedOut colors entries 6 name)
+expect_json(STRING "[Total] Model Ink" 0 notHandedOut categoryNames 7)
 file(READ ${PROJECT}/docs/show-json.md document)
 string(REGEX MATCHALL "\n\\| `[^`]+" documented "${document}")
 list(TRANSFORM documented REPLACE ".*[`.]" "")
 string(REGEX MATCHALL "\"[a-zA-Z]+\": [^[{]" printed "${output}")
-string(REGEX MATCHALL "\"slotNumbers\": " arrays "${output}")
+string(REGEX MATCHALL "\"(slotNumbers|inkTypes|colorThicknessesUm|modesLeftOut|categoryNames)\": " arrays "${output}")
 list(APPEND printed ${arrays})
 list(TRANSFORM printed REPLACE "\"([a-zA-Z]+).*" "\\1")
 foreach(names documented printed)
@@ -171,7 +212,7 @@ endforeach()
 refuse(3 "missing: does not exist" show missing)
 refuse(3 "directory: is a directory" show directory)
 refuse(3 "empty: is empty" show empty)
-refuse(2 "plain INI file" show compact.ini)
+refuse(2 "no-version.ini: has no Version" show no-version.ini)
 refuse(2 "has no Version" show no-version.dat)
 if(UNIX AND NOT TOOL MATCHES "wine-run")
   foreach(command_and_input "encipher;compact.ini" "decipher;compact.dat")
@@ -209,7 +250,8 @@ refuse_arguments("chek: is no command, did you mean check" "tavrin --help" help 
 refuse_arguments("--fromat: is no option of tavrin show, did you mean --format" "tavrin show --help"
   show --fromat=json compact.dat)
 refuse_arguments("DEFINITION is required" "tavrin encipher --help" encipher compact.ini)
-refuse_arguments("extra: is one argument too many" "tavrin show --help" show compact.dat extra)
+refuse_arguments("extra: is one argument too many" "tavrin decipher --help"
+  decipher compact.dat kept extra)
 refuse_arguments("--format: xml" "tavrin show --help" show --format=xml compact.dat)
 
 file(READ ${WORK}/kept kept)

@@ -70,9 +70,9 @@ Findings FindingsIn(const DefinitionReading& definition, const CheckOptions& opt
 void CheckFile(const std::string& file, const CheckOptions& options, FileReports* reports) {
   FileReport report = {file};
   try {
-    if (options.fixes && file == "-")
+    if (options.fixes && file == kStandardStream)
       throw Failure("standard input", "cannot be changed in place", "name a file or take --diff");
-    const Bytes bytes = file == "-" ? ReadStandardInput() : ReadFile(file);
+    const Bytes bytes = ReadInput(file);
     // What programs read is not to be mixed with it.
     std::ostream& out = options.format == "text" ? std::cout : std::cerr;
     const DefinitionReading definition =

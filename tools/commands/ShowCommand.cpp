@@ -1,58 +1,85 @@
 #include "commands/ShowCommand.h"
 
-#include <chrono>
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "Failure.h"
-#include "TavrinSession.h"
 #include "commands/CommandLine.h"
-#include "commands/LoadFailure.h"
 #include "facts/FactsJson.h"
 #include "facts/FactsText.h"
 #include "files/FileTransfer.h"
+#include "files/TextForms.h"
 
 namespace tavrin::tool {
 
 namespace {
 
-tavrinlib::Session Load(const std::string& definition) {
-  const auto start = std::chrono::steady_clock::now();
-  try {
-    return tavrinlib::Session(definition);
-  } catch (const tavrinlib::Error&) {
-    throw ExplainLoadFailure(definition, std::chrono::duration_cast<std::chrono::milliseconds>(
-                                             std::chrono::steady_clock::now() - start));
+struct ShowOptions {
+  std::vector<std::string> files;
+  std::string format = "text";
+  bool showsAll = false;
+};
+
+std::string AsText(const std::vector<DefinitionFacts>& definitions, const ShowOptions& options) {
+  std::string text;
+  for (const DefinitionFacts& facts : definitions) {
+    if (options.files.size() > 1)
+      text += (text.empty() ? "" : "\n") + ("== " + Printable(NameOfInput(facts.file)) + " ==\n\n");
+    text += options.showsAll ? AllFactsAsText(facts) : FactsAsText(facts.printer);
   }
+  return text;
 }
 
-void Show(const std::string& definition, bool asJson) {
-  const PrinterFacts facts = AskPrinterFacts(Load(definition));
-  PrintText(asJson ? FactsAsJson(facts) : FactsAsText(facts));
-  if (!facts.HasIdentity()) {
-    throw Failure(definition, PrinterFacts::kNoIdentity, "shorten it in the INI file",
-                  ExitStatus::Errors);
+std::string AsJson(const std::vector<DefinitionFacts>& definitions, const ShowOptions& options) {
+  return options.files.size() == 1 ? FactsAsJson(definitions.front(), options.showsAll)
+                                   : FactsAsJson(definitions, options.showsAll);
+}
+
+ExitStatus Show(const ShowOptions& options) {
+  CheckInputs(options.files);
+  ExitStatus status = ExitStatus::NothingToReport;
+  std::vector<DefinitionFacts> definitions;
+  for (const std::string& file : options.files) {
+    try {
+      definitions.push_back(LoadFacts(file));
+    } catch (const std::exception& error) {
+      status = std::max(status, ReportFailure(error));
+    }
   }
+  if (!definitions.empty())
+    PrintText(options.format == "json" ? AsJson(definitions, options)
+                                       : AsText(definitions, options));
+  for (const DefinitionFacts& facts : definitions) {
+    if (facts.printer.HasIdentity()) continue;
+    const Failure failure(NameOfInput(facts.file), PrinterFacts::kNoIdentity,
+                          "shorten it in the INI file", ExitStatus::Errors);
+    status = std::max(status, ReportFailure(failure));
+  }
+  return status;
 }
 
 }  // namespace
 
-void AddShow(CLI::App* app) {
-  struct Options {
-    std::string definition;
-    std::string format = "text";
-  };
-  const auto options = std::make_shared<Options>();
+void AddShow(CLI::App* app, ExitStatus* status) {
+  const auto options = std::make_shared<ShowOptions>();
   CLI::App* command = app->add_subcommand("show", "Print what a printer definition says");
-  command->add_option("DEFINITION", options->definition, "The printer definition")->required();
+  command
+      ->add_option("FILE", options->files,
+                   "Printer definitions, enciphered or as plain INI files; - is standard input")
+      ->required();
   AddChoice(command, "--format", &options->format, {"text", "json"},
             "Text for people or JSON for programs");
+  command->add_flag("--all", options->showsAll,
+                    "Print also what the library reads and hands out to no host");
   command->footer(
       "Prints every answer that a host gets from the library, defaults included.\n"
       "docs/show-json.md describes the JSON.\n\n"
       "Example: tavrin show printer.dat\n"
+      "         tavrin show --all printer.ini\n"
       "         tavrin show --format=json printer.dat");
-  command->callback([options] { Show(options->definition, options->format == "json"); });
+  command->callback([options, status] { *status = Show(*options); });
 }
 
 }  // namespace tavrin::tool

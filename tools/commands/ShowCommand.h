@@ -2,10 +2,12 @@
 
 #include <CLI/CLI.hpp>
 
+#include "ExitStatus.h"
+
 namespace tavrin::tool {
 
-/// Adds the command show, which prints what the library answers about a printer definition, as any
-/// host would ask it.
-void AddShow(CLI::App* app);
+/// Adds the command show, which prints what the library answers about printer definitions, as any
+/// host would ask it. After it has run, status is what came of it.
+void AddShow(CLI::App* app, ExitStatus* status);
 
 }  // namespace tavrin::tool

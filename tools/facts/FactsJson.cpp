@@ -75,25 +75,73 @@ Json CategoriesOf(const PrinterFacts& facts) {
   return categories;
 }
 
+Json TableOf(const std::vector<InkEntryFacts>& table, bool isBuiltIn) {
+  Json entries = Json::array();
+  for (const InkEntryFacts& entry : table) {
+    entries.push_back(
+        {{"code", entry.code}, {"name", ToUtf8(entry.name)}, {"slotNumbers", entry.slots}});
+  }
+  return {{"builtIn", isBuiltIn}, {"entries", entries}};
+}
+
+Json HiddenOf(const DefinitionFacts& facts) {
+  const HiddenFacts& hidden = facts.hidden;
+  Json thicknesses = Json::array();
+  for (const tavrinlib::Micrometres thickness : hidden.colorThicknesses)
+    thicknesses.push_back(thickness.count);
+  Json names = Json::array();
+  for (const std::string& name : hidden.categoryNames)
+    names.push_back(ToUtf8(name));
+  return {{"supportExtendUm", hidden.supportExtend.count},
+          {"supportExtendAngleDegrees", hidden.supportExtendAngle},
+          {"cuttingMarginThicknessUm", hidden.cuttingMarginThickness.count},
+          {"colorThicknessesUm", thicknesses},
+          {"modesLeftOut", hidden.modesLeftOut},
+          {"colors", TableOf(hidden.colors, hidden.hasBuiltInColors)},
+          {"inkTypes", TableOf(hidden.inkTypes, hidden.hasBuiltInInkTypes)},
+          {"builtInSlots", hidden.hasBuiltInSlots},
+          {"categoryNames", names}};
+}
+
+Json JsonOf(const DefinitionFacts& definition, bool withHidden) {
+  const PrinterFacts& facts = definition.printer;
+  Json json = {{"identity",
+                {{"modelName", OrNull(facts.modelName)},
+                 {"version", OrNull(facts.version)},
+                 {"networkAddress", OrNull(facts.networkAddress)}}},
+               {"buildVolume",
+                {{"widthUm", facts.widthUm},
+                 {"depthUm", facts.depthUm},
+                 {"heightUm", facts.heightUm},
+                 {"printMarginUm", facts.printMargin.count}}},
+               {"printModes", ModesOf(facts)},
+               {"defaultModeNumber", facts.defaultModeNumber},
+               {"support", SupportOf(facts)},
+               {"machine", MachineOf(facts)},
+               {"inkSlots", SlotsOf(facts)},
+               {"inkCategories", CategoriesOf(facts)}};
+  if (withHidden) json["notHandedOut"] = HiddenOf(definition);
+  return json;
+}
+
+std::string Dump(const Json& json) {
+  return json.dump(2, ' ', true, Json::error_handler_t::replace) + "\n";
+}
+
 }  // namespace
 
-std::string FactsAsJson(const PrinterFacts& facts) {
-  const Json json = {{"identity",
-                      {{"modelName", OrNull(facts.modelName)},
-                       {"version", OrNull(facts.version)},
-                       {"networkAddress", OrNull(facts.networkAddress)}}},
-                     {"buildVolume",
-                      {{"widthUm", facts.widthUm},
-                       {"depthUm", facts.depthUm},
-                       {"heightUm", facts.heightUm},
-                       {"printMarginUm", facts.printMargin.count}}},
-                     {"printModes", ModesOf(facts)},
-                     {"defaultModeNumber", facts.defaultModeNumber},
-                     {"support", SupportOf(facts)},
-                     {"machine", MachineOf(facts)},
-                     {"inkSlots", SlotsOf(facts)},
-                     {"inkCategories", CategoriesOf(facts)}};
-  return json.dump(2, ' ', true, Json::error_handler_t::replace) + "\n";
+std::string FactsAsJson(const DefinitionFacts& facts, bool withHidden) {
+  return Dump(JsonOf(facts, withHidden));
+}
+
+std::string FactsAsJson(const std::vector<DefinitionFacts>& definitions, bool withHidden) {
+  Json array = Json::array();
+  for (const DefinitionFacts& facts : definitions) {
+    Json json = {{"file", ToUtf8(facts.file)}};
+    json.update(JsonOf(facts, withHidden));
+    array.push_back(json);
+  }
+  return Dump(array);
 }
 
 }  // namespace tavrin::tool

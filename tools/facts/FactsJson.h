@@ -1,12 +1,17 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "facts/PrinterFacts.h"
+#include "facts/DefinitionFacts.h"
 
 namespace tavrin::tool {
 
-/// The facts as one JSON object in ASCII, for programs. The names of its fields stay as they are.
-std::string FactsAsJson(const PrinterFacts& facts);
+/// The facts of one definition as a JSON object in ASCII, those of several as an array of such
+/// objects with the names of their files, for programs. The names of the fields stay as they are.
+///
+/// @param withHidden whether what no export hands out is among them.
+std::string FactsAsJson(const DefinitionFacts& facts, bool withHidden);
+std::string FactsAsJson(const std::vector<DefinitionFacts>& definitions, bool withHidden);
 
 }  // namespace tavrin::tool

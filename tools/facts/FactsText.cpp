@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "facts/Report.h"
+#include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 
@@ -132,20 +133,70 @@ void ShowCategories(const PrinterFacts& facts, Report* report) {
   }
 }
 
+void ShowPrinter(const PrinterFacts& facts, Report* report) {
+  ShowIdentity(facts, report);
+  ShowBuildVolume(facts, report);
+  ShowModes(facts, report);
+  ShowSupport(facts, report);
+  ShowMachine(facts, report);
+  ShowSlots(facts, report);
+  ShowCodes(facts, "Colours in the slots", &tavrinlib::Slot::colorCode, report);
+  ShowCodes(facts, "Ink types in the slots", &tavrinlib::Slot::inkTypeCode, report);
+  ShowCategories(facts, report);
+}
+
+template <typename Number>
+std::string Listed(const std::vector<Number>& numbers) {
+  std::string list;
+  for (const Number number : numbers)
+    list += (list.empty() ? "" : ", ") + std::to_string(number);
+  return list;
+}
+
+void ShowTable(const std::string& title, const std::vector<InkEntryFacts>& table, bool isBuiltIn,
+               Report* report) {
+  report->Section(title + (isBuiltIn ? ", built in" : ""));
+  std::vector<Report::Row> rows;
+  for (const InkEntryFacts& entry : table)
+    rows.push_back({std::to_string(entry.code), entry.name,
+                    entry.slots.empty() ? "none" : Listed(entry.slots)});
+  if (rows.empty()) report->Value("None", "the definition's entries are incomplete");
+  if (!rows.empty()) report->Table({"Code", "Name", "Slots"}, rows);
+}
+
+void ShowHidden(const DefinitionFacts& facts, Report* report) {
+  const HiddenFacts& hidden = facts.hidden;
+  report->Section("Not handed out to hosts");
+  report->Value("Support extent", Millimetres(hidden.supportExtend.count));
+  report->Value("Support angle", NumberText(hidden.supportExtendAngle) + " degrees");
+  report->Value("Cutting margin thickness", Millimetres(hidden.cuttingMarginThickness.count));
+  for (std::size_t i = 0; i < hidden.colorThicknesses.size(); ++i) {
+    report->Value("Colour thickness of mode " + std::to_string(facts.printer.modes[i].number),
+                  Millimetres(hidden.colorThicknesses[i].count));
+  }
+  report->Value("Modes left out",
+                hidden.modesLeftOut.empty() ? "none" : Listed(hidden.modesLeftOut));
+  report->Value("Ink slots", hidden.hasBuiltInSlots ? "built in" : "of the definition");
+  for (std::size_t i = 0; i < hidden.categoryNames.size(); ++i)
+    report->Value("Name of category " + std::to_string(i), hidden.categoryNames[i]);
+  ShowTable("Table of colours", hidden.colors, hidden.hasBuiltInColors, report);
+  ShowTable("Table of ink types", hidden.inkTypes, hidden.hasBuiltInInkTypes, report);
+}
+
 }  // namespace
 
 std::string FactsAsText(const PrinterFacts& facts) {
   std::ostringstream text;
   Report report(text);
-  ShowIdentity(facts, &report);
-  ShowBuildVolume(facts, &report);
-  ShowModes(facts, &report);
-  ShowSupport(facts, &report);
-  ShowMachine(facts, &report);
-  ShowSlots(facts, &report);
-  ShowCodes(facts, "Colours in the slots", &tavrinlib::Slot::colorCode, &report);
-  ShowCodes(facts, "Ink types in the slots", &tavrinlib::Slot::inkTypeCode, &report);
-  ShowCategories(facts, &report);
+  ShowPrinter(facts, &report);
+  return text.str();
+}
+
+std::string AllFactsAsText(const DefinitionFacts& facts) {
+  std::ostringstream text;
+  Report report(text);
+  ShowPrinter(facts.printer, &report);
+  ShowHidden(facts, &report);
   return text.str();
 }
 

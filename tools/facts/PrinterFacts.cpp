@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace tavrin::tool {
 
@@ -26,6 +27,18 @@ void AskIdentity(PrinterFacts* facts) {
   facts->networkAddress = InfoField(info.data() + 2 * kInfoFieldBytes);
 }
 
+std::vector<SideSupportFacts> AskCurve(const tavrinlib::Session& session, std::uint32_t heightUm) {
+  constexpr std::int64_t kSteps = 50;
+  constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
+  const std::int64_t top = std::clamp<std::int64_t>(heightUm, 1, kHighest);
+  std::vector<SideSupportFacts> curve;
+  for (std::int64_t step = 0; step <= kSteps; ++step) {
+    const tavrinlib::Micrometres height{static_cast<std::int32_t>(1 + (top - 1) * step / kSteps)};
+    curve.push_back({height, session.SideSupportThickness(height)});
+  }
+  return curve;
+}
+
 }  // namespace
 
 PrinterFacts AskPrinterFacts(const tavrinlib::Session& session) {
@@ -43,6 +56,7 @@ PrinterFacts AskPrinterFacts(const tavrinlib::Session& session) {
     const tavrinlib::Micrometres height{millimetres * 1000};
     facts.sideSupport.push_back({height, session.SideSupportThickness(height)});
   }
+  facts.sideSupportCurve = AskCurve(session, facts.heightUm);
   facts.detachLayer = session.DetachLayerHeight();
   facts.supportSizeCode = session.SupportSize();
   facts.smoothing = session.Smoothing();

@@ -33,6 +33,8 @@ struct PrinterFacts {
   std::int32_t defaultModeNumber = 0;
   tavrinlib::Micrometres topSupport;
   std::vector<SideSupportFacts> sideSupport;  ///< for models of a few heights
+  /// For models of 51 heights, evenly from the least, 1 um, to the build height.
+  std::vector<SideSupportFacts> sideSupportCurve;
   tavrinlib::Micrometres detachLayer;
   std::int32_t supportSizeCode = 0;
   bool smoothing = false;

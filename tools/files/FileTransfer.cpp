@@ -163,6 +163,20 @@ Bytes ReadStandardInput() {
   return bytes;
 }
 
+Bytes ReadInput(const std::string& file) {
+  return file == kStandardStream ? ReadStandardInput() : ReadFile(file);
+}
+
+std::string NameOfInput(const std::string& file) {
+  return file == kStandardStream ? "standard input" : file;
+}
+
+void CheckInputs(const std::vector<std::string>& files) {
+  if (std::count(files.begin(), files.end(), kStandardStream) <= 1) return;
+  throw Failure("standard input", "is named more than once and can be read once",
+                "save it to a file first", ExitStatus::Usage);
+}
+
 void WriteStandardOutput(const Bytes& bytes) {
   MakeStandardOutputBinary();
   Print(bytes);

@@ -22,8 +22,20 @@ void CheckOutput(const std::string& input, const std::string& output);
 /// Reads the whole file, or refuses it as CheckInput does.
 Bytes ReadFile(const std::string& file);
 
+/// What stands for standard input and output where a file is to be named.
+inline constexpr char kStandardStream[] = "-";
+
 /// Reads standard input to its end, or refuses it when it is empty.
 Bytes ReadStandardInput();
+
+/// Reads the file, or standard input.
+Bytes ReadInput(const std::string& file);
+
+/// The input as messages name it.
+std::string NameOfInput(const std::string& file);
+
+/// Refuses inputs among which standard input, which can be read once, is named more often.
+void CheckInputs(const std::vector<std::string>& files);
 
 /// Writes the file in one step: either it holds all the bytes afterwards, or it is as it was.
 /// Until then its bytes can be read by the owner alone. A file that is there keeps its permissions.
