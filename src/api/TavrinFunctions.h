@@ -2,14 +2,14 @@
 /// The exports of TavrinLib as types, for a host that links nothing and loads the library while it
 /// runs, with `dlopen` or `LoadLibrary`.
 ///
-/// What a function does is said at its declaration in TavrinLib.h.
+/// `TavrinInitializeFunction` is a pointer to a function such as TavrinInitialize(), and so with each
+/// export.
 #ifndef TAVRIN_FUNCTIONS_H
 #define TAVRIN_FUNCTIONS_H
 
 #include "TavrinLib.h"
 
-/// @name A pointer to each export
-/// @{
+/// @cond
 typedef bool (*TavrinInitializeFunction)(const char* path);
 typedef bool (*TavrinFinalizeFunction)(void);
 typedef bool (*TavrinGetLastErrorFunction)(uint32_t* code);
@@ -37,7 +37,7 @@ typedef bool (*TavrinGetInkSlotNumConposeInkCategoryFunction)(int32_t index, int
 typedef bool (*TavrinGetItemCountOfInkSlotFunction)(uint32_t* count);
 typedef bool (*TavrinGetInkSlotFunction)(uint32_t slotNumber, InkSlot** slot);
 typedef bool (*TavrinCreateModelingConditionsFileFunction)(const char* path);
-/// @}
+/// @endcond
 
 /// Applies the macro X to the name of every export. That fills a TavrinFunctions:
 ///
