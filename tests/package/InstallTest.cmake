@@ -21,7 +21,7 @@ endmacro()
 
 ask(log ${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
 file(RENAME ${WORK}/installed ${prefix})
-expect_files(${prefix})
+expect_files(${prefix} ${LIBDIR})
 execute_process(COMMAND grep -rlF ${SOURCE} ${prefix} OUTPUT_VARIABLE bound)
 if(bound)
   message(SEND_ERROR "These name where they were made:\n${bound}")
