@@ -1,4 +1,5 @@
 #include <exception>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -6,6 +7,7 @@
 #include "TavrinVersion.h"
 #include "commands/CheckCommand.h"
 #include "commands/CommandLine.h"
+#include "commands/Completion.h"
 #include "commands/DecipherCommand.h"
 #include "commands/DiffCommand.h"
 #include "commands/EncipherCommand.h"
@@ -14,6 +16,7 @@
 #include "commands/SetCommand.h"
 #include "commands/ShowCommand.h"
 #include "commands/TemplateCommand.h"
+#include "files/FileTransfer.h"
 
 namespace {
 
@@ -26,6 +29,10 @@ ExitStatus Run(int argc, char** argv) {
   app.set_version_flag("--version", "tavrin " TAVRIN_VERSION_STRING, "Print the version");
   app.failure_message(tavrin::tool::MistakeMessage);
   tavrin::tool::SetHelpForm(&app);
+  app.footer(
+      "A command's own help tells more: tavrin help check. Where a help names a document, such as\n"
+      "docs/check.md, it lies with the others in " TAVRIN_DOCUMENTS
+      "\nbeneath the directory of the installation.");
   // A command is not required here, so that a misspelt one is reported as such.
   app.require_subcommand(0, 1);
   app.callback([&app] {
@@ -42,6 +49,10 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);
+  if (argc > 1 && argv[1] == std::string_view(tavrin::tool::kComplete)) {
+    tavrin::tool::PrintText(tavrin::tool::Completions(app, {argv + 2, argv + argc}));
+    return ExitStatus::NothingToReport;
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

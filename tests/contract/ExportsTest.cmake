@@ -23,6 +23,10 @@ file(READ ${SOURCES}/api/TavrinLib.h header)
 names(declared "${header}" "\nTAVRIN_API [a-z0-9_]+ [A-Za-z0-9_]+" ".* ")
 expect_same("Declared in TavrinLib.h" "${function}" "${declared}")
 
+file(READ ${SOURCES}/api/TavrinFunctions.h header)
+names(loadable "${header}" "\n +X[(][A-Za-z0-9]+" ".*[(]")
+expect_same("Named in TavrinFunctions.h" "${function}" "${loadable}")
+
 file(READ ${DOCUMENT} document)
 string(REPLACE "[" "(" document "${document}")
 names(documented "${document}" "\n. `Tavrin[A-Za-z]+` [|]" "[\n|` ]+")

@@ -18,7 +18,8 @@ list(GET numbers 0 major)
 list(GET numbers 1 minor)
 list(GET numbers 2 patch)
 expect_version(${HEADER}
-  "MAJOR ${major};MINOR ${minor};PATCH ${patch};STRING \"${VERSION}\"" "${macros}")
+  "MAJOR ${major};MINOR ${minor};PATCH ${patch};STRING \"${VERSION}\";NODE \"TAVRINLIB_${major}\""
+  "${macros}")
 
 if(FORMAT STREQUAL "elf")
   ask(dump ${OBJDUMP} -p ${LIBRARY})

@@ -2,39 +2,14 @@
 #include <stdio.h>
 #include <string.h>
 
+#include "TavrinFunctions.h"
 #include "TavrinLib.h"
 
 typedef void (*AnyFunction)(void);
 
 /* Volatile, or else the compiler would drop the table for knowing that no address is null. */
-static volatile AnyFunction exports[] = {
-    (AnyFunction)TavrinInitialize,
-    (AnyFunction)TavrinFinalize,
-    (AnyFunction)TavrinGetLastError,
-    (AnyFunction)TavrinGetAreaSize,
-    (AnyFunction)TavrinGetAreaMarginSize,
-    (AnyFunction)TavrinGetModeCount,
-    (AnyFunction)TavrinGetModeConfig,
-    (AnyFunction)TavrinGetTopSupportThickness,
-    (AnyFunction)TavrinGetSideSupportThickness,
-    (AnyFunction)TavrinGetDetachLayerHeight,
-    (AnyFunction)TavrinGetSmoothing,
-    (AnyFunction)TavrinGetFeedBiDirection,
-    (AnyFunction)TavrinGetWrapReduction,
-    (AnyFunction)TavrinGetWarpWarning,
-    (AnyFunction)TavrinGetInfo,
-    (AnyFunction)TavrinGetHeadBandSize,
-    (AnyFunction)TavrinGetDefaultPrintMode,
-    (AnyFunction)TavrinGetChippingAllowance,
-    (AnyFunction)TavrinGetSupportSize,
-    (AnyFunction)TavrinGetAutoCleaning,
-    (AnyFunction)TavrinGetCheckNozzleWhilePrinting,
-    (AnyFunction)TavrinGetItemCountOfInkCategory,
-    (AnyFunction)TavrinGetInkSlotNumConposeInkCategory,
-    (AnyFunction)TavrinGetItemCountOfInkSlot,
-    (AnyFunction)TavrinGetInkSlot,
-    (AnyFunction)TavrinCreateModelingConditionsFile,
-};
+#define ADDRESS(name) (AnyFunction) name,
+static volatile AnyFunction exports[] = {TAVRIN_FUNCTIONS(ADDRESS)};
 
 static int failures = 0;
 
