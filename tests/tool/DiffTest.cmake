@@ -8,14 +8,15 @@ foreach(name IN LISTS names)
   string(REPLACE ".expected" "" name ${name})
   file(READ ${CASES}/${name}.expected expected)
   run(diff --lines diff/${name}.old.ini diff/${name}.new.ini)
-  check("diff ${name}; expected: ${expected}"
-    "${output}exit status ${result}\n" STREQUAL expected AND NOT message)
+  set(told "${output}exit status ${result}\n")
+  check("diff ${name}; expected: ${expected}" told STREQUAL expected AND NOT message)
 
   # Enciphered as well, and without the lines. A definition does not differ from itself.
   succeed(encipher diff/${name}.old.ini diff/old.dat)
   run_with(diff/old.dat diff - diff/${name}.new.ini)
   string(REGEX REPLACE "Without effect\n.*(exit status)" "\\1" expected "${expected}")
-  check("diff ${name} enciphered" "${output}exit status ${result}\n" STREQUAL expected)
+  set(told "${output}exit status ${result}\n")
+  check("diff ${name} enciphered" told STREQUAL expected)
   succeed(diff --lines diff/old.dat diff/${name}.old.ini)
   check("the same" NOT output)
 endforeach()

@@ -11,7 +11,6 @@
 #include "check/CopyToRead.h"
 #include "check/DefinitionReading.h"
 #include "check/FileReport.h"
-#include "check/Rules.h"
 #include "commands/Ciphering.h"
 #include "definition/FileCipher.h"
 #include "definition/IniSnapshot.h"
@@ -139,11 +138,11 @@ void CheckStored(const Reading& reading, const std::vector<Assignment>& assignme
 }
 
 /// Refuses what nothing reads after the change, and a definition that would not load.
-void CheckOutcome(const std::string& file, const Reading& after,
+void CheckOutcome(const std::string& file, const Reading& after, const Findings& brought,
                   const std::vector<Assignment>& assignments) {
   if (!after.loads) {
     std::string cause;
-    for (const Finding& finding : FindAll(after)) {
+    for (const Finding& finding : brought) {
       if (finding.severity != Severity::Error) continue;
       cause = ": " + Printable(finding.key) + ": " + Printable(finding.what);
       break;
@@ -201,8 +200,8 @@ ExitStatus Set(const SetOptions& options) {
   if (plain.empty()) throw Failure(name, "would be empty", "nothing is changed");
   const Reading after(plain);
   CheckStored(after, assignments);
-  if (!options.isForced) CheckOutcome(name, after, assignments);
   const FindingChanges findings(before.reading, after);
+  if (!options.isForced) CheckOutcome(name, after, findings.brought, assignments);
   Write(options.file, before.container, plain);
   const std::string report = Describe(before.reading, after) +
                              LinesOf(options.file, findings.mended, "mended: ") +

@@ -10,14 +10,16 @@ namespace tavrin::tool {
 
 namespace {
 
+using Identity = std::tuple<Severity, std::string, std::string, std::string>;
+
 /// What makes a finding the same although other lines moved its own.
-std::tuple<std::string, std::string, std::string> IdentityOf(const Finding& finding) {
-  return {finding.rule, finding.key, finding.what};
+Identity IdentityOf(const Finding& finding) {
+  return {finding.severity, finding.rule, finding.key, finding.what};
 }
 
 /// Those that the others have not.
 Findings Without(const Findings& findings, const Findings& others) {
-  std::multiset<std::tuple<std::string, std::string, std::string>> known;
+  std::multiset<Identity> known;
   for (const Finding& finding : others)
     known.insert(IdentityOf(finding));
   Findings left;
