@@ -51,7 +51,20 @@ refuse(3 "missing: does not exist" diff missing minimal.ini)
 refuse(4 "standard input: is named more than once" diff - -)
 refuse(4 "NEW is required" diff minimal.ini)
 
+# The README's example.
+file(READ ${PROJECT}/README.md document)
+string(REGEX MATCH "tavrin set new.dat ([^\n]+)\n" line "${document}")
+string(REPLACE " " ";" changes "${CMAKE_MATCH_1}")
+file(COPY_FILE ${WORK}/full-colour.dat ${WORK}/new.dat)
+run(set new.dat ${changes})
+run(diff full-colour.dat new.dat)
+string(REPLACE "\n" "\n    " shown "\n${output}")
+string(STRIP "${shown}" shown)
+string(FIND "${document}" "\n\n    ${shown}\n\n" at)
+check("the README's diff" changes AND at GREATER 0)
+
 # What the document says of git, tried.
+file(READ ${PROJECT}/docs/diff.md document)
 find_program(GIT git)
 if(GIT AND UNIX AND NOT TOOL MATCHES "wine-run")
   file(MAKE_DIRECTORY ${WORK}/repository)

@@ -78,6 +78,13 @@ std::vector<Assignment> AssignmentsOf(const SetOptions& options) {
   return assignments;
 }
 
+/// Refuses what is no definition by all appearances, to which a section would be added.
+void CheckIsDefinition(const std::string& file, const Bytes& bytes, const Reading& reading) {
+  if (reading.lines.HeaderLine() != 0 || ContainerOf(bytes)) return;
+  throw Failure(file, "shows no definition, neither as it stands nor deciphered",
+                "name a definition, or --force changes it all the same", ExitStatus::Errors);
+}
+
 /// Refuses a text in which lines that are added or changed would not be read.
 void CheckEncoding(const std::string& file, const Reading& reading) {
   const TextFormat& format = reading.lines.Format();
@@ -188,8 +195,10 @@ void Write(const std::string& file, Container container, Bytes plain) {
 ExitStatus Set(const SetOptions& options) {
   std::vector<Assignment> assignments = AssignmentsOf(options);
   const std::string name = NameOfInput(options.file);
-  const DefinitionReading before = ReadDefinition(ReadInput(options.file));
+  const Bytes bytes = ReadInput(options.file);
+  const DefinitionReading before = ReadDefinition(bytes);
   CheckEncoding(name, before.reading);
+  if (!options.isForced) CheckIsDefinition(name, bytes, before.reading);
   ResolveKeys(before.reading, options.isForced, &assignments);
   const Bytes plain = Assigned(before.reading, assignments);
   const bool isPassedOn = options.file == kStandardStream;

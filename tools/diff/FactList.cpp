@@ -41,7 +41,8 @@ std::string ListText(const std::vector<std::int64_t>& numbers) {
 
 /// Quoted where it is not plain where it begins and ends.
 std::string TextText(const std::string& text) {
-  const bool isPlain = !text.empty() && text.front() != ' ' && text.back() != ' ';
+  const bool isPlain =
+      !text.empty() && text.front() != ' ' && text.front() != '"' && text.back() != ' ';
   return isPlain ? text : '"' + text + '"';
 }
 
