@@ -5,6 +5,7 @@ import math
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 
 import pytest
@@ -14,8 +15,8 @@ from browser import Browser, find_chromium
 TOOL = os.environ["TAVRIN_TOOL"]
 EXAMPLES = pathlib.Path(os.environ["TAVRIN_EXAMPLES"])
 
-if find_chromium() is None:
-    pytest.skip("chromium is not installed here", allow_module_level=True)
+if find_chromium() is None or shutil.which("tidy") is None:
+    pytest.skip("chromium or tidy is not installed here", allow_module_level=True)
 
 MARKUP = "<script>document.title = 'run'</script><img src=x onerror=alert(1)>&amp;\"' --></svg>"
 LONG = "WithoutAnyBlankAndWithoutAnyEndThatASheetCouldHaveRoomForInOneLine" * 2

@@ -59,7 +59,7 @@ th:last-child, td:last-child { padding-right: 0; }
 thead th { color: var(--faint); font-size: 13px; font-weight: 600; vertical-align: bottom; }
 tbody th { font-weight: 400; }
 td { font-variant-numeric: tabular-nums; }
-.facts td { width: 44%; font-weight: 600; }
+.facts td { width: 41%; font-weight: 600; }
 .tag {
   display: inline-block; margin-left: 2px; padding: 0 6px; border: 1px solid; border-radius: 4px;
   font-size: 12px; font-weight: 600; line-height: 1.4; white-space: nowrap;
@@ -157,6 +157,7 @@ footer { margin-top: 24px; padding-top: 10px; border-top: 1px solid var(--rule);
   tr, .rack, .drawing { break-inside: avoid; }
   thead { display: table-header-group; break-inside: avoid; break-after: avoid; }
   .drawing { max-width: 250px; margin-bottom: 0; }
+  .drawing text { font-size: 16.5px; }
   .bar { height: 6px; }
   .slot { gap: 5px; }
   .slot .swatch { width: 13px; height: 13px; }

@@ -21,7 +21,7 @@ class Axes {
  public:
   Axes(double height, double least, double most)
       : height_(height), least_(least), most_(most), step_(RoundedDown((most - least) / 3.0)) {
-    constexpr double kCharacter = 9.6;
+    constexpr double kCharacter = 10.2;
     const double lastTick = std::floor(most / step_) * step_;
     const std::size_t characters = std::max(
         {TickText(lastTick).Ascii().size(), TickText(step_).Ascii().size(), std::size_t{3}});

@@ -101,8 +101,8 @@ Html Inside(const Projection& place, const Extent& box, double margin) {
 
 Html Outline(const Projection& place, const Extent& box) {
   const auto [w, d, h] = box;
-  Html outline = Edges("hidden", place, {0, 0, 0}, {w, d, h}) +
-                 Polygon("edge", Floor(place, w, d, 0.0, h));
+  Html outline =
+      Edges("hidden", place, {0, 0, 0}, {w, d, h}) + Polygon("edge", Floor(place, w, d, 0.0, h));
   for (const Point foot : {Point{w, 0.0}, Point{w, d}, Point{0.0, d}})
     outline += Line("edge", place.At(foot.x, foot.y, 0), place.At(foot.x, foot.y, h));
   return outline;
@@ -111,7 +111,7 @@ Html Outline(const Projection& place, const Extent& box) {
 /// A length with its name to the right of a place, or to its left; moved so far that it is on the
 /// page.
 Html LengthLabel(Point at, bool isToTheRight, const std::string& name, std::int64_t micrometres) {
-  constexpr double kCharacter = 9.6;
+  constexpr double kCharacter = 10.2;
   const std::size_t places = micrometres % 1000 == 0 ? 0 : 4;
   const auto characters = name.size() + std::to_string(micrometres / 1000).size() + places + 3;
   const double length = kCharacter * static_cast<double>(characters);
