@@ -159,10 +159,8 @@ std::string ManualPage(const CLI::App& command) {
       description += (description.empty() ? "" : ".PP\n") + Paragraph(paragraph);
     }
   }
-  return ".TH " + Escaped(title) + " 1 \"\" \"" + kRelease +
-         "\"
-             .SH NAME " + Escaped(name) + " \\-
-         " + Escaped(purpose) + '\n' + Synopsis(command) +
+  return ".TH " + Escaped(title) + " 1 \"\" \"" + kRelease + "\"\n.SH NAME\n" + Escaped(name) +
+         " \\- " + Escaped(purpose) + '\n' + Synopsis(command) +
          (description.empty() ? "" : ".SH DESCRIPTION\n" + description) +
          Options(command, "ARGUMENTS", true) + Options(command, "OPTIONS", false) +
          Commands(command) + ExitStatuses() + examples + SeeAlso(command);
