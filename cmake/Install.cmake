@@ -12,7 +12,7 @@ install(TARGETS TavrinLib EXPORT TavrinLib
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   PUBLIC_HEADER DESTINATION ${include_dir}
-  INCLUDES DESTINATION ${include_dir})
+  INCLUDES DESTINATION ${include_dir} ${CMAKE_INSTALL_INCLUDEDIR})
 
 # What hosts of other compilers link with; there are none but on Windows.
 get_target_property(import_files TavrinLib TAVRIN_IMPORT_FILES)
@@ -29,6 +29,11 @@ install(FILES ${PROJECT_BINARY_DIR}/TavrinLibConfigVersion.cmake DESTINATION ${p
 
 file(RELATIVE_PATH prefix_from_pkgconfig /prefix/${pkgconfig_dir} /prefix)
 string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
+set(pkgconfig_library -lTavrinLib)
+if(MINGW)
+  # By the file's name, as -static lets -l look for static libraries alone.
+  set(pkgconfig_library -l:libTavrinLib.dll.a)
+endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/TavrinLib.pc.in ${PROJECT_BINARY_DIR}/TavrinLib.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/TavrinLib.pc DESTINATION ${pkgconfig_dir})
 
