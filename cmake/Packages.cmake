@@ -1,8 +1,14 @@
-# What `cpack` makes of the installed files.
+# What `cpack` makes of the installed files: one archive of everything, or one of each component
+# with -D CPACK_ARCHIVE_COMPONENT_INSTALL=ON, and Debian's packages.
 set(CPACK_PACKAGE_VENDOR "TavrinLib")
 set(CPACK_PACKAGE_CONTACT "TavrinLib maintainers <maintainers@tavrin.example>")
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_COMPONENTS_ALL runtime development tool documentation)
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/packages/Options.cmake)
+set(CPACK_TAVRIN_SOURCE_DIR ${PROJECT_SOURCE_DIR})
 
 set(system ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
 if(WIN32)
@@ -14,18 +20,19 @@ if(WIN32)
     string(APPEND system -msvc)
   endif()
 else()
-  set(CPACK_GENERATOR TGZ DEB)
+  set(CPACK_GENERATOR TGZ)
 endif()
 string(TOLOWER ${system} system)
 set(CPACK_PACKAGE_FILE_NAME TavrinLib-${PROJECT_VERSION}-${system})
 
-set(CPACK_DEBIAN_PACKAGE_NAME tavrinlib)
-set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
-# The tool's own library lies in the same package.
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/bin)
+find_program(TAVRIN_DPKG_GENSYMBOLS dpkg-gensymbols)
+mark_as_advanced(TAVRIN_DPKG_GENSYMBOLS)
+set(TAVRIN_MAKES_DEBIAN_PACKAGES OFF)
+if(CMAKE_LIBRARY_ARCHITECTURE AND TAVRIN_DPKG_GENSYMBOLS
+    AND NOT CMAKE_CROSSCOMPILING AND NOT TAVRIN_SANITIZERS)
+  set(TAVRIN_MAKES_DEBIAN_PACKAGES ON)
+  list(APPEND CPACK_GENERATOR DEB)
+  include(packages/Debian)
+endif()
 
 include(CPack)
