@@ -11,6 +11,8 @@ namespace tavrin::tool {
 
 namespace {
 
+constexpr char kRelease[] = "TavrinLib " TAVRIN_VERSION_STRING;
+
 std::vector<std::string> SplitAt(const std::string& separator, const std::string& text) {
   std::vector<std::string> parts;
   std::size_t begin = 0;
@@ -157,8 +159,8 @@ std::string ManualPage(const CLI::App& command) {
       description += (description.empty() ? "" : ".PP\n") + Paragraph(paragraph);
     }
   }
-  return ".TH " + Escaped(title) + " 1 \"\" \"TavrinLib " TAVRIN_VERSION_STRING "\"\n.SH NAME\n" +
-         Escaped(name) + " \\- " + Escaped(purpose) + '\n' + Synopsis(command) +
+  return ".TH " + Escaped(title) + " 1 \"\" \"" + kRelease + "\"\n.SH NAME\n" + Escaped(name) +
+         " \\- " + Escaped(purpose) + '\n' + Synopsis(command) +
          (description.empty() ? "" : ".SH DESCRIPTION\n" + description) +
          Options(command, "ARGUMENTS", true) + Options(command, "OPTIONS", false) +
          Commands(command) + ExitStatuses() + examples + SeeAlso(command);

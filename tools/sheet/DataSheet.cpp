@@ -35,7 +35,7 @@ bool IsGiven(const DefinitionFacts& facts, const std::string& key) {
 }
 
 Html Tag(const Html& style, const Html& text) {
-  return text.In(Html("span class=\"tag ") + style + "\"");
+  return Html(" ") + text.In(Html("span class=\"tag ") + style + "\"");
 }
 
 Html BuiltInTag() {
@@ -81,15 +81,14 @@ Findings FindingsIn(const DefinitionFacts& facts) {
 }
 
 Html Verdict(const Findings& findings) {
-  const auto count = [&](Severity severity) {
-    return static_cast<std::size_t>(
-        std::count_if(findings.begin(), findings.end(),
-                      [&](const Finding& finding) { return finding.severity == severity; }));
-  };
-  const std::size_t errors = count(Severity::Error);
   if (findings.empty()) return Html("check: nothing to report").In("p class=\"verdict good\"");
-  return (Html("check: ") + Html::Text(Counted(errors, "error")) + ", " +
-          Html::Text(Counted(count(Severity::Warning), "warning")))
+  const auto isError = [](const Finding& finding) { return finding.severity == Severity::Error; };
+  const auto errors =
+      static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(), isError));
+  const std::size_t warnings = findings.size() - errors;
+  std::string counts = errors > 0 ? Counted(errors, "error") : "";
+  if (warnings > 0) counts += (counts.empty() ? "" : ", ") + Counted(warnings, "warning");
+  return (Html("check: ") + Html::Text(counts))
       .In(errors > 0 ? Html("p class=\"verdict bad\"") : Html("p class=\"verdict warn\""));
 }
 
@@ -155,6 +154,9 @@ Html SupportSection(const DefinitionFacts& facts) {
     return at.modelHeight.count == highest.modelHeight.count;
   });
   if (!isThere) sides.push_back(highest);
+  std::sort(sides.begin(), sides.end(), [](const SideSupportFacts& a, const SideSupportFacts& b) {
+    return a.modelHeight.count < b.modelHeight.count;
+  });
   for (const SideSupportFacts& at : sides) {
     rows += FactRow(Key("curve", Html("Side support at ") + Millimetres(at.modelHeight.count)),
                     Millimetres(at.thickness.count) + side);
@@ -200,7 +202,7 @@ Html ModesSection(const DefinitionFacts& facts) {
   return Titled(
       "Print modes",
       Table("modes", "Before a limited mode hosts warn of warping; it may run on up to its limit.",
-            {"Mode", "Slice height", "Layers", "Values"}, rows));
+            {"Mode", "Slice height", "Layers", "Value pair"}, rows));
 }
 
 Html MachineSection(const DefinitionFacts& facts) {
@@ -319,7 +321,7 @@ Html HiddenSection(const DefinitionFacts& facts) {
 Html Sheet(const DefinitionFacts& facts, bool withHidden) {
   const Findings findings = FindingsIn(facts);
   const Html footer =
-      Html("Values as hosts get them from the library; ") + BuiltInTag() +
+      Html("Values as hosts get them from the library;") + BuiltInTag() +
       " marks those that the definition leaves to it. Made by tavrin " TAVRIN_VERSION_STRING
       " of " +
       Html::Text(NameOfInput(facts.file)) + " (" + Html::Text(NameOf(facts.definition.container)) +

@@ -103,10 +103,11 @@ Html operator+(Html a, const Html& b) {
   return a;
 }
 
-Html Decimal(double number) {
+Html Decimal(double number, int places) {
   // Rounded here, as the C libraries differ in how they round.
-  const double limit = 1e15;
-  return Html::Text(WithPoint(std::llround(std::clamp(number, -limit, limit) * 100.0), 2));
+  const double limit = 1e12;
+  const double scaled = std::clamp(number, -limit, limit) * std::pow(10.0, places);
+  return Html::Text(WithPoint(std::llround(scaled), places));
 }
 
 Html Millimetres(std::int64_t micrometres) {

@@ -33,8 +33,8 @@ class Html {
 
 Html operator+(Html a, const Html& b);
 
-/// A number to at most two decimal places, without needless zeros.
-Html Decimal(double number);
+/// A number to at most so many decimal places, without needless zeros.
+Html Decimal(double number, int places = 2);
 
 /// A length in mm with its unit.
 Html Millimetres(std::int64_t micrometres);

@@ -96,7 +96,7 @@ Html Swatch(const std::string& name, bool isKnown) {
   if (color == nullptr) {
     drawing =
         "<rect class=\"clear\" width=\"24\" height=\"24\"></rect>"
-        "<text class=\"what\" x=\"12\" y=\"17\">?</text>";
+        "<text class=\"what\" x=\"12\" y=\"15.5\">?</text>";
   } else if (color->fill.IsEmpty()) {
     drawing = Pattern(color->name);
   } else {

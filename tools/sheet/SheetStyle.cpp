@@ -28,7 +28,7 @@ article {
   max-width: 1080px; margin: 0 auto 24px; padding: 32px; background: var(--paper);
   border: 1px solid var(--rule); border-top: 6px solid var(--accent); border-radius: 6px;
 }
-h1, h2, td, th, dd, p, li { overflow-wrap: anywhere; }
+h1, h2, td, tbody th, dd, p { overflow-wrap: anywhere; }
 h1 { margin: 0; font-size: 34px; line-height: 1.15; }
 h2 { margin: 0 0 8px; padding-bottom: 4px; font-size: 17px; border-bottom: 2px solid var(--accent); }
 p { margin: 8px 0 0; }
@@ -52,23 +52,31 @@ dd { margin: 0; font-weight: 600; }
 section { min-width: 0; margin-top: 28px; }
 .pair > section { margin-top: 0; }
 .pair { margin-top: 28px; }
-table { width: 100%; border-collapse: collapse; }
+table { width: 100%; border-collapse: collapse; table-layout: fixed; }
 caption { padding: 0 0 6px; text-align: left; color: var(--faint); font-size: 13px; }
 th, td { padding: 5px 8px 5px 0; border-bottom: 1px solid var(--rule); text-align: left; vertical-align: top; }
 th:last-child, td:last-child { padding-right: 0; }
 thead th { color: var(--faint); font-size: 13px; font-weight: 600; vertical-align: bottom; }
 tbody th { font-weight: 400; }
 td { font-variant-numeric: tabular-nums; }
-.facts td { width: 44%; font-weight: 600; }
+.facts td { width: 41%; font-weight: 600; }
 .tag {
-  display: inline-block; margin-left: 6px; padding: 0 6px; border: 1px solid; border-radius: 4px;
+  display: inline-block; margin-left: 2px; padding: 0 6px; border: 1px solid; border-radius: 4px;
   font-size: 12px; font-weight: 600; line-height: 1.4; white-space: nowrap;
 }
 .built-in { color: var(--faint); font-weight: 400; border-style: dashed; }
 .default { color: var(--accent); background: var(--wash); }
 .off { color: var(--faint); font-weight: 400; }
-.modes th:first-child { width: 33%; }
-.modes th:last-child { width: 18%; }
+.modes th:nth-child(1) { width: 32%; }
+.modes th:nth-child(4) { width: 19%; }
+.slots th:nth-child(1) { width: 14%; }
+.slots th:nth-child(3) { width: 17%; }
+.slots th:nth-child(4), .slots th:nth-child(5) { width: 15%; }
+.categories th:nth-child(1) { width: 14%; }
+.categories th:nth-child(3) { width: 43%; }
+.findings th:nth-child(1) { width: 4em; }
+.findings th:nth-child(2) { width: 6.5em; }
+.slot span { white-space: nowrap; }
 .modes tbody th { font-weight: 600; }
 .modes .limited { background: var(--warn-wash); }
 .limit { color: var(--faint); font-size: 13px; font-weight: 400; }
@@ -79,7 +87,7 @@ svg { display: block; }
 .drawing { width: 100%; max-width: 460px; margin: 0 auto 8px; }
 .drawing text { fill: var(--ink); font-size: 13.5px; }
 .wall { fill: var(--wash); fill-opacity: .35; }
-.margin { fill: var(--margin); }
+.margin { fill: var(--margin); stroke: var(--ink); stroke-width: .6; stroke-linejoin: round; }
 .area { fill: var(--wash); }
 .leader { stroke: var(--faint); stroke-width: 1; }
 .edge { fill: none; stroke: var(--ink); stroke-width: 1.3; stroke-linejoin: round; stroke-linecap: round; }
@@ -100,7 +108,7 @@ svg { display: block; }
 .shine { stroke: #86b4cc; stroke-width: 1.5; fill: none; }
 .support { fill: #d9cfbd; }
 .weave { stroke: #8d7f66; stroke-width: 1.5; fill: none; }
-.what { fill: #33383d; font-size: 15px; font-weight: 700; text-anchor: middle; }
+.what { fill: #33383d; font-size: 10px; font-weight: 700; text-anchor: middle; }
 .rack { display: grid; grid-template-columns: repeat(8, minmax(0, 1fr)); gap: 4px; margin-bottom: 14px; }
 .thread { align-self: center; height: 2px; background: var(--accent); }
 .category {
@@ -110,12 +118,13 @@ svg { display: block; }
 }
 .tank { min-width: 0; text-align: center; font-size: 12px; line-height: 1.25; }
 .tank b { display: block; margin-top: 4px; font-size: 15px; }
-.tank span { display: block; overflow-wrap: anywhere; }
+.tank span {
+  display: -webkit-box; overflow: hidden; overflow-wrap: anywhere;
+  -webkit-line-clamp: 3; -webkit-box-orient: vertical;
+}
 .tank .swatch { width: 100%; height: 46px; margin: 2px 0 4px; border-radius: 4px 4px 10px 10px; }
 .slot { display: flex; gap: 8px; align-items: center; font-weight: 600; }
-.findings { margin: 0; padding: 0; list-style: none; }
-.findings td:first-child { white-space: nowrap; }
-.findings p { margin: 0; }
+.findings .tag, footer .tag { margin: 0; }
 footer { margin-top: 24px; padding-top: 10px; border-top: 1px solid var(--rule); color: var(--faint); font-size: 13px; }
 @media (max-width: 620px) {
   body { padding: 0; font-size: 14px; }
@@ -146,8 +155,9 @@ footer { margin-top: 24px; padding-top: 10px; border-top: 1px solid var(--rule);
   section { margin-top: 12px; }
   th, td { padding-top: 1.5px; padding-bottom: 1.5px; }
   tr, .rack, .drawing { break-inside: avoid; }
-  thead { display: table-header-group; }
-  .drawing { max-width: 272px; margin-bottom: 0; }
+  thead { display: table-header-group; break-inside: avoid; break-after: avoid; }
+  .drawing { max-width: 250px; margin-bottom: 0; }
+  .drawing text { font-size: 16.5px; }
   .bar { height: 6px; }
   .slot { gap: 5px; }
   .slot .swatch { width: 13px; height: 13px; }

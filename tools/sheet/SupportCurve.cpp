@@ -8,18 +8,28 @@ namespace tavrin::tool {
 
 namespace {
 
-constexpr double kLeft = 52.0;
 constexpr double kRight = 424.0;
 constexpr double kTop = 30.0;
 constexpr double kBottom = 282.0;
 
+Html TickText(double tick) {
+  return Decimal(tick, 4);
+}
+
 /// Lengths in mm on the page: heights of the model to the right, thicknesses upwards.
 class Axes {
  public:
-  Axes(double height, double least, double most) : height_(height), least_(least), most_(most) {}
+  Axes(double height, double least, double most)
+      : height_(height), least_(least), most_(most), step_(RoundedDown((most - least) / 3.0)) {
+    constexpr double kCharacter = 10.2;
+    const double lastTick = std::floor(most / step_) * step_;
+    const std::size_t characters = std::max(
+        {TickText(lastTick).Ascii().size(), TickText(step_).Ascii().size(), std::size_t{3}});
+    left_ = 16.0 + kCharacter * static_cast<double>(characters);
+  }
 
   Point At(double height, double thickness) const {
-    return {kLeft + (kRight - kLeft) * height / height_,
+    return {left_ + (kRight - left_) * height / height_,
             kBottom - (kBottom - kTop) * (thickness - least_) / (most_ - least_)};
   }
   Html Grid() const;
@@ -31,23 +41,25 @@ class Axes {
   double height_;
   double least_;
   double most_;
+  double step_;  ///< between two lines of the grid
+  double left_;
 };
 
 Html Axes::Grid() const {
   Html grid;
-  const double step = RoundedDown((most_ - least_) / 3.0);
-  for (double tick = std::ceil(least_ / step); tick * step <= most_; ++tick) {
-    grid += Level("grid", tick * step) +
-            Label({kLeft - 7.0, At(0.0, tick * step).y + 4.0}, "end", Decimal(tick * step));
+  for (double tick = std::ceil(least_ / step_); tick * step_ <= most_; ++tick) {
+    grid += Level("grid", tick * step_) +
+            Label({left_ - 7.0, At(0.0, tick * step_).y + 4.0}, "end", TickText(tick * step_));
   }
-  const double along = RoundedDown(height_ / 3.0);
+  // Fewer where their numbers are long.
+  const double along = RoundedDown(height_ / (height_ < 10000.0 ? 3.0 : 2.0));
   for (double tick = 0.0; tick * along <= height_; ++tick) {
     const Point foot = At(tick * along, least_);
     grid += Line("grid", foot, {foot.x, kTop}) +
-            Label({foot.x, kBottom + 18.0}, "middle", Decimal(tick * along));
+            Label({foot.x, kBottom + 18.0}, "middle", TickText(tick * along));
   }
-  return grid + Line("axis", {kLeft, kBottom}, {kRight, kBottom}) +
-         Line("axis", {kLeft, kTop}, {kLeft, kBottom}) +
+  return grid + Line("axis", {left_, kBottom}, {kRight, kBottom}) +
+         Line("axis", {left_, kTop}, {left_, kBottom}) +
          Label({kRight, kBottom + 38.0}, "end", "height of the model in mm") +
          Label({6.0, 16.0}, "start", "thickness in mm");
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kWidth = 440.0;
 constexpr double kHeight = 330.0;
-constexpr double kSide = 70.0;   ///< for what is written beside the volume
+constexpr double kSide = 84.0;   ///< for what is written beside the volume
 constexpr double kBelow = 46.0;  ///< and under it
 
 /// A direction on the page, of a length of 1.
@@ -101,12 +101,23 @@ Html Inside(const Projection& place, const Extent& box, double margin) {
 
 Html Outline(const Projection& place, const Extent& box) {
   const auto [w, d, h] = box;
-  Html outline = Edges("hidden", place, {0, 0, 0}, {w, d, h}) +
-                 Edges("edge", place, {w, d, 0}, {0, 0, h}) +
-                 Polygon("edge", Floor(place, w, d, 0.0, h));
-  for (const Point foot : {Point{w, 0.0}, Point{0.0, d}})
+  Html outline =
+      Edges("hidden", place, {0, 0, 0}, {w, d, h}) + Polygon("edge", Floor(place, w, d, 0.0, h));
+  for (const Point foot : {Point{w, 0.0}, Point{w, d}, Point{0.0, d}})
     outline += Line("edge", place.At(foot.x, foot.y, 0), place.At(foot.x, foot.y, h));
   return outline;
+}
+
+/// A length with its name to the right of a place, or to its left; moved so far that it is on the
+/// page.
+Html LengthLabel(Point at, bool isToTheRight, const std::string& name, std::int64_t micrometres) {
+  constexpr double kCharacter = 10.2;
+  const std::size_t places = micrometres % 1000 == 0 ? 0 : 4;
+  const auto characters = name.size() + std::to_string(micrometres / 1000).size() + places + 3;
+  const double length = kCharacter * static_cast<double>(characters);
+  const Html text = Html::Text(name) + Millimetres(micrometres);
+  return isToTheRight ? Label({std::min(at.x, kWidth - length), at.y}, "start", text)
+                      : Label({std::max(at.x, length), at.y}, "end", text);
 }
 
 Html Lengths(const Projection& place, const Extent& box, const PrinterFacts& facts) {
@@ -115,11 +126,10 @@ Html Lengths(const Projection& place, const Extent& box, const PrinterFacts& fac
   const Point right = place.At(w, d / 2.0, 0);
   const Point upright = place.At(w, 0, h / 2.0);
   const Point corner = place.At(w, d, 0);
-  const Point under = {corner.x, corner.y + 20.0};
-  return Label({left.x - 10.0, left.y + 17.0}, "end", Html("width ") + Millimetres(facts.widthUm)) +
-         Label({right.x + 10.0, right.y + 17.0}, "start",
-               Html("depth ") + Millimetres(facts.depthUm)) +
-         Label({upright.x + 8.0, upright.y + 4.0}, "start", Millimetres(facts.heightUm)) +
+  const Point under = {corner.x, corner.y + 24.0};
+  return LengthLabel({left.x - 10.0, left.y + 17.0}, false, "width ", facts.widthUm) +
+         LengthLabel({right.x + 10.0, right.y + 17.0}, true, "depth ", facts.depthUm) +
+         LengthLabel({upright.x + 8.0, upright.y}, true, "", facts.heightUm) +
          Line("leader", corner, under) +
          Label({under.x, under.y + 14.0}, "middle",
                Html("margin ") + Millimetres(facts.printMargin.count));
