@@ -41,6 +41,9 @@ if(EXISTS ${stage}/tool)
   # The system knows where the library is.
   file(RPATH_REMOVE FILE ${stage}/tool/usr/bin/tavrin)
   depends_on(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS tool usr/bin/tavrin)
+  # Where Debian's zsh looks.
+  set(functions ${stage}/tool/usr/share/zsh)
+  file(RENAME ${functions}/site-functions ${functions}/vendor-completions)
 endif()
 file(REMOVE_RECURSE ${stage}/debian_runtime/DEBIAN ${stage}/tool/DEBIAN)
 
