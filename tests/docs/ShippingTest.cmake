@@ -4,7 +4,7 @@
 #   BUILD, SOURCE, WORK    its tree, the project, a directory of the test's own, emptied first
 #   HOST      the smallest host of the guide
 #   TOOL, EMULATOR         the tool, what programs run under, if anything
-#   TOOLCHAIN              for CMake, where there is one
+#   C_COMPILER, CROSS      of a cross build, for the host
 cmake_minimum_required(VERSION 3.22)
 set(RUNNER ${EMULATOR})
 include(${CMAKE_CURRENT_LIST_DIR}/../support/Run.cmake)
@@ -48,8 +48,10 @@ mount --bind opt /opt
 . ./ship.sh
 ")
 set(ENV{CMAKE_GENERATOR} Ninja)
-if(TOOLCHAIN)
-  set(ENV{CMAKE_TOOLCHAIN_FILE} ${TOOLCHAIN})
+if(CROSS)
+  file(WRITE ${WORK}/toolchain.cmake
+    "set(CMAKE_SYSTEM_NAME ${CROSS})\nset(CMAKE_C_COMPILER ${C_COMPILER})\n")
+  set(ENV{CMAKE_TOOLCHAIN_FILE} ${WORK}/toolchain.cmake)
 endif()
 set(RUNNER)
 run(unshare --map-root-user --mount bash all.sh)
