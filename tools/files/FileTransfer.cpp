@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "Failure.h"
+#include "files/FileOwner.h"
 #include "files/FilePath.h"
 #include "files/StandardStreams.h"
 #include "files/TemporaryFile.h"
@@ -83,6 +84,12 @@ bool IsText(const Bytes& bytes) {
   });
 }
 
+/// The members of the other group were among the others before, and get no more than these.
+perms ForAnotherGroup(perms permissions) {
+  const auto others = static_cast<unsigned>(permissions & perms::others_all);
+  return permissions & (~perms::group_all | static_cast<perms>(others << 3));
+}
+
 /// The file that is replaced: a link stays and what it leads to gets the bytes.
 std::filesystem::path FollowLink(const std::filesystem::path& file) {
   std::error_code error;
@@ -154,6 +161,8 @@ void WriteFile(const std::string& file, const Bytes& bytes, perms permissions) {
     throw Failure(file, "cannot be written: " + SystemMessage(),
                   "check the directory's permissions and free space");
   }
+  if (std::filesystem::exists(replaced) && !TakeOwner(target, temporary.Path()))
+    permissions = ForAnotherGroup(permissions);
   if (!temporary.Rename(permissions, &error)) {
     throw Failure(file, "cannot be replaced: " + error.message(),
                   "check its name and permissions, and that no program has it open");
