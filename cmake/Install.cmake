@@ -60,3 +60,8 @@ endif()
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT documentation
   FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+if(TARGET tavrin_reference)
+  get_target_property(reference_dir tavrin_reference BINARY_DIR)
+  install(DIRECTORY ${reference_dir}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT documentation OPTIONAL)
+endif()
