@@ -55,6 +55,20 @@ if(TARGET tavrin)
     /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
   set_target_properties(tavrin PROPERTIES INSTALL_RPATH $ORIGIN/${lib_from_bin})
   install(TARGETS tavrin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+  if(TARGET tavrin_manual)
+    get_target_property(tools_dir tavrin BINARY_DIR)
+    install(DIRECTORY ${tools_dir}/manual/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  endif()
+  if(NOT WIN32)
+    set(completions ${PROJECT_SOURCE_DIR}/tools/completions)
+    set(share ${CMAKE_INSTALL_DATADIR})
+    install(FILES ${completions}/tavrin.bash RENAME tavrin
+      DESTINATION ${share}/bash-completion/completions COMPONENT tool)
+    install(FILES ${completions}/_tavrin
+      DESTINATION ${share}/zsh/site-functions COMPONENT tool)
+    install(FILES ${completions}/tavrin.fish
+      DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
+  endif()
 endif()
 
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)

@@ -1,4 +1,5 @@
 #include <exception>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -6,11 +7,13 @@
 #include "TavrinVersion.h"
 #include "commands/CheckCommand.h"
 #include "commands/CommandLine.h"
+#include "commands/Completion.h"
 #include "commands/DecipherCommand.h"
 #include "commands/EncipherCommand.h"
 #include "commands/KeysCommand.h"
 #include "commands/ShowCommand.h"
 #include "commands/TemplateCommand.h"
+#include "files/FileTransfer.h"
 
 namespace {
 
@@ -23,6 +26,10 @@ ExitStatus Run(int argc, char** argv) {
   app.set_version_flag("--version", "tavrin " TAVRIN_VERSION_STRING, "Print the version");
   app.failure_message(tavrin::tool::MistakeMessage);
   tavrin::tool::SetHelpForm(&app);
+  app.footer(
+      "A command's own help tells more: tavrin help check. Where a help names a document, such as\n"
+      "docs/check.md, it lies with the others in " TAVRIN_DOCUMENTS
+      "\nbeneath the directory of the installation.");
   // A command is not required here, so that a misspelt one is reported as such.
   app.require_subcommand(0, 1);
   app.callback([&app] {
@@ -36,6 +43,10 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);
+  if (argc > 1 && argv[1] == std::string_view(tavrin::tool::kComplete)) {
+    tavrin::tool::PrintText(tavrin::tool::Completions(app, {argv + 2, argv + argc}));
+    return ExitStatus::NothingToReport;
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

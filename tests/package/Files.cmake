@@ -1,5 +1,5 @@
 # expect_files(<directory> <libdir> [<component>]): the files in it are those of files.txt. Needs
-# FORMAT, VERSION and CONFIG.
+# FORMAT, VERSION and CONFIG. Which commands have a manual page is a matter of InstallTest.cmake.
 include(${CMAKE_CURRENT_LIST_DIR}/../contract/Expect.cmake)
 
 string(REGEX MATCH "^[0-9]+" MAJOR ${VERSION})
@@ -15,6 +15,7 @@ function(expect_files directory LIBDIR)
   string(CONFIGURE "${lines}" listed @ONLY)
   list(TRANSFORM listed REPLACE "^[a-z]+ [a-z]+ " "")
   file(GLOB_RECURSE files RELATIVE ${directory} ${directory}/*)
+  list(FILTER files EXCLUDE REGEX "/man1/tavrin-[a-z]+[.]1")
   set(documents ${files})
   list(FILTER documents INCLUDE REGEX "^share/doc/TavrinLib/")
   list(REMOVE_ITEM documents ${listed} "")

@@ -301,6 +301,18 @@ foreach(command IN LISTS commands)
   succeed(help ${command})
   check("help ${command} is not ${command} --help: ${help}" output STREQUAL help)
 endforeach()
+# What shells ask, each question with the answer's lines, blanks in place of their ends.
+foreach(question_and_answer
+    "show;--format=j|--format=json" "show;--format;te|text" "check;--th|--threshold="
+    "check;--ignore=address,beyond|--ignore=address,beyond-ascii" "keys;mode7slice|Mode7SliceSize"
+    "help;templ|template" "template;x|" "decipher;x|:files" "no-such;--f|" "check;--;-|:files")
+  string(REGEX MATCH "(.*)[|](.*)" matched "${question_and_answer}")
+  set(expected "${CMAKE_MATCH_2}")
+  succeed(__complete ${CMAKE_MATCH_1})
+  string(REGEX REPLACE "(\t[^\n]*)?\n" " " answer "${output}")
+  string(STRIP "${answer}" answer)
+  check("completion of ${question_and_answer}: '${answer}'" answer STREQUAL expected)
+endforeach()
 foreach(document README.md docs/check.md)
   file(READ ${PROJECT}/${document} text)
   foreach(status 0 1 2 3 4)

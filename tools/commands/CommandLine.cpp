@@ -5,6 +5,7 @@
 
 #include "Failure.h"
 #include "Spelling.h"
+#include "commands/ManualPage.h"
 #include "files/FileTransfer.h"
 
 namespace tavrin::tool {
@@ -26,11 +27,6 @@ class HelpForm : public CLI::Formatter {
     return (footer.empty() ? "" : footer + "\n\n") + kExitStatuses + '\n';
   }
 };
-
-std::string FullName(const CLI::App& command) {
-  const CLI::App* parent = command.get_parent();
-  return parent == nullptr ? command.get_name() : FullName(*parent) + ' ' + command.get_name();
-}
 
 std::string Suggestion(const std::string& nearest) {
   return nearest.empty() ? nearest : ", did you mean " + nearest + '?';
@@ -83,13 +79,23 @@ void SetHelpForm(CLI::App* app) {
 }
 
 void AddHelp(CLI::App* app) {
-  const auto name = std::make_shared<std::string>();
+  struct Options {
+    std::string name;
+    std::string format = "text";
+  };
+  const auto options = std::make_shared<Options>();
   CLI::App* command = app->add_subcommand("help", "Print the help of a command");
-  command->add_option("COMMAND", *name, "The command; without it the help lists all");
-  command->footer("Example: tavrin help check");
-  command->callback([app, name] {
-    const CLI::App* about = name->empty() ? app : FindCommand(*app, *name);
-    PrintText(app->get_formatter()->make_help(about, FullName(*about), CLI::AppFormatMode::Normal));
+  command->add_option("COMMAND", options->name, "The command; without it the help lists all");
+  AddChoice(command, "--format", &options->format, {"text", "man"},
+            "Text to read as it is, or the source of a manual page");
+  command->footer(
+      "Example: tavrin help check\n"
+      "         tavrin help --format=man check | man -l -");
+  command->callback([app, options] {
+    const CLI::App* about = options->name.empty() ? app : FindCommand(*app, options->name);
+    PrintText(options->format == "man" ? ManualPage(*about)
+                                       : app->get_formatter()->make_help(
+                                             about, FullName(*about), CLI::AppFormatMode::Normal));
   });
 }
 

@@ -11,6 +11,7 @@
 #include "facts/FactsText.h"
 #include "files/FileTransfer.h"
 #include "files/TextForms.h"
+#include "sheet/DataSheet.h"
 
 namespace tavrin::tool {
 
@@ -37,6 +38,16 @@ std::string AsJson(const std::vector<DefinitionFacts>& definitions, const ShowOp
                                    : FactsAsJson(definitions, options.showsAll);
 }
 
+void Print(const std::vector<DefinitionFacts>& definitions, const ShowOptions& options) {
+  if (options.format == "html") {
+    const std::string page = DataSheets(definitions, options.showsAll);
+    WriteStandardOutput(Bytes(page.begin(), page.end()));
+  } else {
+    PrintText(options.format == "json" ? AsJson(definitions, options)
+                                       : AsText(definitions, options));
+  }
+}
+
 ExitStatus Show(const ShowOptions& options) {
   CheckInputs(options.files);
   ExitStatus status = ExitStatus::NothingToReport;
@@ -48,9 +59,7 @@ ExitStatus Show(const ShowOptions& options) {
       status = std::max(status, ReportFailure(error));
     }
   }
-  if (!definitions.empty())
-    PrintText(options.format == "json" ? AsJson(definitions, options)
-                                       : AsText(definitions, options));
+  if (!definitions.empty()) Print(definitions, options);
   for (const DefinitionFacts& facts : definitions) {
     if (facts.printer.HasIdentity()) continue;
     const Failure failure(NameOfInput(facts.file), PrinterFacts::kNoIdentity,
@@ -69,16 +78,18 @@ void AddShow(CLI::App* app, ExitStatus* status) {
       ->add_option("FILE", options->files,
                    "Printer definitions, enciphered or as plain INI files; - is standard input")
       ->required();
-  AddChoice(command, "--format", &options->format, {"text", "json"},
-            "Text for people or JSON for programs");
+  AddChoice(command, "--format", &options->format, {"text", "json", "html"},
+            "Text for people, JSON for programs, or a data sheet to look at or print");
   command->add_flag("--all", options->showsAll,
                     "Print also what the library reads and hands out to no host");
   command->footer(
       "Prints every answer that a host gets from the library, defaults included.\n"
-      "docs/show-json.md describes the JSON.\n\n"
+      "docs/show-json.md describes the JSON. The data sheet is one HTML file that needs no "
+      "other.\n\n"
       "Example: tavrin show printer.dat\n"
       "         tavrin show --all printer.ini\n"
-      "         tavrin show --format=json printer.dat");
+      "         tavrin show --format=json printer.dat\n"
+      "         tavrin show --format=html printer.dat > printer.html");
   command->callback([options, status] { *status = Show(*options); });
 }
 
