@@ -9,8 +9,11 @@
 #include "commands/CommandLine.h"
 #include "commands/Completion.h"
 #include "commands/DecipherCommand.h"
+#include "commands/DiffCommand.h"
 #include "commands/EncipherCommand.h"
+#include "commands/GetCommand.h"
 #include "commands/KeysCommand.h"
+#include "commands/SetCommand.h"
 #include "commands/ShowCommand.h"
 #include "commands/TemplateCommand.h"
 #include "files/FileTransfer.h"
@@ -40,6 +43,9 @@ ExitStatus Run(int argc, char** argv) {
   tavrin::tool::AddEncipher(&app);
   tavrin::tool::AddDecipher(&app);
   tavrin::tool::AddShow(&app, &status);
+  tavrin::tool::AddDiff(&app, &status);
+  tavrin::tool::AddGet(&app, &status);
+  tavrin::tool::AddSet(&app, &status);
   tavrin::tool::AddKeys(&app);
   tavrin::tool::AddTemplate(&app);
   tavrin::tool::AddHelp(&app);

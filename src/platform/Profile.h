@@ -50,4 +50,12 @@ class ProfileReader {
 bool WriteProfileValue(const wchar_t* section, const wchar_t* key, const wchar_t* value,
                        const wchar_t* path);
 
+/// The bytes of a profile in which key has the value in section, or with a null value is not in it.
+/// On every platform the key is found, and a new one placed, as the portable WriteProfileValue does
+/// it; but every other byte stays as it is, line ends and the blanks round a value included.
+///
+/// REQUIRES: section and key are not null.
+std::string EditProfile(const std::string& bytes, const wchar_t* section, const wchar_t* key,
+                        const wchar_t* value);
+
 }  // namespace tavrin::platform

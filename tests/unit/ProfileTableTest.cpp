@@ -108,5 +108,34 @@ TEST(ProfileTable, ComesOutAsRecorded) {
     ADD_FAILURE() << "the list of deviations names a case that is none: " << unknown.first;
 }
 
+/// What an edit in place gives where it keeps more than the profile functions do, by id.
+std::map<std::string, std::string> LoadKeptBytes() {
+  std::map<std::string, std::string> kept;
+  for (const auto& row : RowsOf("profile-edits.tsv"))
+    kept[row.at(0)] = row.at(1);
+  return kept;
+}
+
+// The rules are those of the writes above, on every platform; line ends and blanks stay.
+TEST(ProfileTable, EditsInPlaceKeepTheBytesAround) {
+  std::map<std::string, std::string> kept = LoadKeptBytes();
+  for (const Case& c : LoadCases()) {
+    if (c.kind == "read") continue;
+    const std::wstring value = WideFromUtf8(Unescape(c.value));
+    const std::string before = c.content == kMissing ? "" : Unescape(c.content);
+    const std::string after = platform::EditProfile(
+        before, WideFromUtf8(Unescape(c.section)).c_str(), WideFromUtf8(Unescape(c.key)).c_str(),
+        c.kind == "delete" ? nullptr : value.c_str());
+    const auto own = kept.find(c.id);
+    const std::string expected = own != kept.end()        ? own->second
+                                 : c.expected == kMissing ? ""
+                                                          : c.expected;
+    EXPECT_EQ(Escape(after), Normalized(expected))
+        << c.id << " [" << c.section << "] " << c.key << " of " << c.content;
+    if (own != kept.end()) kept.erase(own);
+  }
+  EXPECT_TRUE(kept.empty()) << "no such case: " << kept.begin()->first;
+}
+
 }  // namespace
 }  // namespace tavrin

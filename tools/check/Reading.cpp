@@ -1,41 +1,17 @@
 #include "check/Reading.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
-#include "Failure.h"
+#include "check/CopyToRead.h"
 #include "definition/PrintModes.h"
 #include "definition/PrinterKeys.h"
-#include "definition/TemporaryPath.h"
 #include "definition/TextConversion.h"
-#include "files/FilePath.h"
-#include "files/TemporaryFile.h"
 #include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
 
 namespace {
-
-/// The one that the library uses.
-std::filesystem::path TemporaryDirectory() {
-  return ToPath(MakeTemporaryPath("")).parent_path();
-}
-
-/// The reading code reads files alone. The name is one that no load uses.
-class CopyToRead : public platform::PlainCopy {
- public:
-  explicit CopyToRead(const Bytes& plain)
-      : PlainCopy(ToArgument(UnusedPathBeside(TemporaryDirectory() / "definition.ini"))) {
-    if (Write(plain.data(), static_cast<std::uint32_t>(plain.size())) && WroteAll()) return;
-    throw Failure("temporary directory " + ToArgument(TemporaryDirectory()),
-                  "takes no file: " + std::generic_category().message(errno),
-                  "check its permissions and free space, or name another one in TMPDIR, on Windows "
-                  "in TMP");
-  }
-};
 
 /// Asks the reading code, as platforms differ in it.
 bool IsKnown(const TextFormat& format, const Bytes& plain) {

@@ -1,11 +1,14 @@
 #include "commands/CommandLine.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "Failure.h"
 #include "Spelling.h"
 #include "commands/ManualPage.h"
+#include "files/FilePath.h"
 #include "files/FileTransfer.h"
 
 namespace tavrin::tool {
@@ -47,7 +50,19 @@ const CLI::App* FindCommand(const CLI::App& app, const std::string& name) {
   return found.front();
 }
 
+/// Names that begin with a dash are taken for options.
+bool LooksLikeFile(const std::string& option) {
+  const std::string extension = option.size() < 4 ? "" : option.substr(option.size() - 4);
+  std::error_code error;
+  return extension == ".ini" || extension == ".dat" ||
+         std::filesystem::exists(ToPath(option), error);
+}
+
 Failure NoOption(const CLI::App& command, const std::string& option) {
+  if (LooksLikeFile(option)) {
+    return {option, "is no option of " + FullName(command),
+            "name a file that begins with a dash ./" + option, ExitStatus::Usage};
+  }
   std::vector<std::string> names;
   for (const CLI::Option* known : command.get_options()) {
     for (const std::string& name : known->get_lnames())

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -27,17 +26,12 @@ void CheckEnciphered(const std::string& definition, const Bytes& bytes) {
                 ExitStatus::Errors);
 }
 
-void Decipher(const std::string& definition, const std::optional<std::string>& ini, bool isForced) {
-  CheckInput(definition);
-  if (ini) CheckOutput(definition, *ini);
-  Bytes bytes = ReadFile(definition);
-  if (!isForced) CheckEnciphered(definition, bytes);
-  bytes = Ciphered(definition, std::move(bytes), DecryptBuffer);
-  if (ini) {
-    WriteFile(*ini, bytes, kOwnerOnly);
-  } else {
-    WriteStandardOutput(bytes);
-  }
+void Decipher(const std::string& definition, const std::string& ini, bool isForced) {
+  CheckTransfer(definition, ini);
+  Bytes bytes = ReadInput(definition);
+  const std::string name = NameOfInput(definition);
+  if (!isForced) CheckEnciphered(name, bytes);
+  WriteOutput(ini, Ciphered(name, std::move(bytes), DecryptBuffer), kOwnerOnly);
 }
 
 }  // namespace
@@ -45,13 +39,16 @@ void Decipher(const std::string& definition, const std::optional<std::string>& i
 void AddDecipher(CLI::App* app) {
   struct Options {
     std::string definition;
-    std::optional<std::string> ini;
+    std::string ini = kStandardStream;
     bool isForced = false;
   };
   const auto options = std::make_shared<Options>();
   CLI::App* command = app->add_subcommand("decipher", "Turn a printer definition into an INI file");
-  command->add_option("DEFINITION", options->definition, "The printer definition")->required();
-  command->add_option("INI", options->ini, "The INI file to write; standard output without it");
+  command
+      ->add_option("DEFINITION", options->definition, "The printer definition; - is standard input")
+      ->required();
+  command->add_option("INI", options->ini,
+                      "The INI file to write; standard output without it or with -");
   command->add_flag("--force", options->isForced, "Put also a plain file through the cipher");
   command->footer(
       "A new INI file can be read by its owner alone; one that is replaced keeps its permissions,\n"

@@ -44,17 +44,18 @@ void CheckPlain(const std::string& ini, const Bytes& bytes) {
 /// is read-only cannot be replaced.
 std::filesystem::perms PermissionsLike(const std::string& ini) {
   using std::filesystem::perms;
+  if (ini == kStandardStream) return perms::owner_read | perms::owner_write;
   std::error_code error;
   return std::filesystem::status(ToPath(ini), error).permissions() | perms::owner_read |
          perms::owner_write;
 }
 
 void Encipher(const std::string& ini, const std::string& definition, bool isForced) {
-  CheckInput(ini);
-  CheckOutput(ini, definition);
-  Bytes bytes = ReadFile(ini);
-  if (!isForced) CheckPlain(ini, bytes);
-  WriteFile(definition, Ciphered(ini, std::move(bytes), EncryptBuffer), PermissionsLike(ini));
+  CheckTransfer(ini, definition);
+  Bytes bytes = ReadInput(ini);
+  if (!isForced) CheckPlain(NameOfInput(ini), bytes);
+  WriteOutput(definition, Ciphered(NameOfInput(ini), std::move(bytes), EncryptBuffer),
+              PermissionsLike(ini));
 }
 
 }  // namespace
@@ -67,15 +68,19 @@ void AddEncipher(CLI::App* app) {
   };
   const auto options = std::make_shared<Options>();
   CLI::App* command = app->add_subcommand("encipher", "Make a printer definition from an INI file");
-  command->add_option("INI", options->ini, "The plain INI file")->required();
-  command->add_option("DEFINITION", options->definition, "The printer definition to write")
+  command->add_option("INI", options->ini, "The plain INI file; - is standard input")->required();
+  command
+      ->add_option("DEFINITION", options->definition,
+                   "The printer definition to write; - is standard output")
       ->required();
   command->add_flag("--force", options->isForced,
                     "Encipher also what is enciphered already or would not load");
   command->footer(
       "A new definition gets the INI file's permissions; one that is replaced keeps its own, and\n"
-      "one that is read-only is not replaced.\n\n"
-      "Example: tavrin encipher printer.ini printer.dat");
+      "one that is read-only is not replaced. A new one made of standard input can be read by its\n"
+      "owner alone. What is refused or empty leaves the definition as it was.\n\n"
+      "Example: tavrin encipher printer.ini printer.dat\n"
+      "         tavrin decipher old.dat - | sed s/Cyan/Blue/ | tavrin encipher - new.dat");
   command->callback([options] { Encipher(options->ini, options->definition, options->isForced); });
 }
 

@@ -76,6 +76,13 @@ bool ReadAll(std::istream& stream, Bytes* bytes) {
   return stream.peek() == std::istream::traits_type::eof();
 }
 
+/// Enciphered bytes and UTF-16 have control characters that would drive a terminal.
+bool IsText(const Bytes& bytes) {
+  return std::none_of(bytes.begin(), bytes.end(), [](unsigned char byte) {
+    return byte < ' ' && (byte < '\t' || byte > '\r');
+  });
+}
+
 /// The file that is replaced: a link stays and what it leads to gets the bytes.
 std::filesystem::path FollowLink(const std::filesystem::path& file) {
   std::error_code error;
@@ -112,13 +119,18 @@ void CheckOutput(const std::string& input, const std::string& output) {
   if (std::filesystem::is_symlink(path, error) && !std::filesystem::exists(path, error)) {
     throw Failure(output, "is a link that leads nowhere", "remove it or name another output file");
   }
-  if (std::filesystem::equivalent(ToPath(input), path, error)) {
+  if (input != kStandardStream && std::filesystem::equivalent(ToPath(input), path, error)) {
     throw Failure(output, "is the input file itself", "name another output file");
   }
   const std::filesystem::path directory = path.has_parent_path() ? path.parent_path() : ".";
   if (!std::filesystem::is_directory(directory, error)) {
     throw Failure(output, "lies in no existing directory", "create the directory first");
   }
+}
+
+void CheckTransfer(const std::string& input, const std::string& output) {
+  if (input != kStandardStream) CheckInput(input);
+  if (output != kStandardStream) CheckOutput(input, output);
 }
 
 Bytes ReadFile(const std::string& file) {
@@ -146,6 +158,12 @@ void WriteFile(const std::string& file, const Bytes& bytes, perms permissions) {
     throw Failure(file, "cannot be replaced: " + error.message(),
                   "check its name and permissions, and that no program has it open");
   }
+}
+
+void ReplaceFile(const std::string& file, const Bytes& bytes) {
+  const std::filesystem::file_status status = StatusOf(file);
+  if (IsReadOnly(status)) throw Failure(file, "is read-only", "make it writable");
+  WriteFile(file, bytes, status.permissions());
 }
 
 Bytes ReadStandardInput() {
@@ -178,8 +196,20 @@ void CheckInputs(const std::vector<std::string>& files) {
 }
 
 void WriteStandardOutput(const Bytes& bytes) {
+  if (IsTerminal() && !IsText(bytes)) {
+    throw Failure("standard output", "is a terminal and would get bytes that are no text",
+                  "name an output file, or lead it into one with >", ExitStatus::Usage);
+  }
   MakeStandardOutputBinary();
   Print(bytes);
+}
+
+void WriteOutput(const std::string& file, const Bytes& bytes, perms permissions) {
+  if (file == kStandardStream) {
+    WriteStandardOutput(bytes);
+  } else {
+    WriteFile(file, bytes, permissions);
+  }
 }
 
 void PrintText(const std::string& text) {

@@ -19,6 +19,10 @@ std::uint32_t CheckInput(const std::string& file);
 /// written to.
 void CheckOutput(const std::string& input, const std::string& output);
 
+/// CheckInput and CheckOutput, of which either may be standard input or output, which is not looked
+/// at.
+void CheckTransfer(const std::string& input, const std::string& output);
+
 /// Reads the whole file, or refuses it as CheckInput does.
 Bytes ReadFile(const std::string& file);
 
@@ -43,8 +47,14 @@ void CheckInputs(const std::vector<std::string>& files);
 /// @param permissions those of a new file.
 void WriteFile(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions);
 
-/// Writes the bytes unchanged to standard output.
+/// The same in place of a file that is there, and refuses one that is read-only.
+void ReplaceFile(const std::string& file, const Bytes& bytes);
+
+/// Writes the bytes unchanged to standard output; refuses what is no text where that is a terminal.
 void WriteStandardOutput(const Bytes& bytes);
+
+/// WriteFile, or standard output.
+void WriteOutput(const std::string& file, const Bytes& bytes, std::filesystem::perms permissions);
 
 /// Prints text to standard output, with the platform's line ends.
 void PrintText(const std::string& text);

@@ -16,7 +16,9 @@
 #include "platform/portable/Ascii.h"
 #include "platform/portable/AskedName.h"
 #include "platform/portable/Descriptor.h"
+#include "platform/portable/NarrowEncoding.h"
 #include "platform/portable/PlainCopyState.h"
+#include "platform/portable/ProfileEdit.h"
 #include "platform/portable/ProfileIndex.h"
 #include "platform/portable/ProfileText.h"
 
@@ -68,48 +70,6 @@ bool UpdateFile(const std::string& path, std::string_view before, std::string_vi
   put(before);
   if (isNew) unlink(path.c_str());
   return false;
-}
-
-/// The line of a key, or the empty place where that line is to go.
-template <typename Unit>
-struct Place {
-  std::size_t begin = 0;
-  std::size_t end = 0;
-  bool hasSection = false;
-  bool hasKey = false;
-  bool hasValue = false;                  ///< false for a line without '='
-  std::basic_string_view<Unit> key = {};  ///< as the file spells it
-  std::wstring value = {};                ///< with its quotes
-};
-
-/// A new key goes behind the last one of its section, or else behind the section's comments.
-template <typename Encoding, typename Unit = typename Encoding::Unit>
-Place<Unit> FindPlace(std::basic_string_view<Unit> text, std::wstring_view section,
-                      std::wstring_view key, Encoding* encoding) {
-  Place<Unit> place{text.size(), text.size()};
-  bool hasKeys = false;
-  std::wstring wide;
-  std::basic_string_view<Unit> rest = text.substr(Encoding::kMarkLength);
-  while (!rest.empty()) {
-    const std::size_t begin = text.size() - rest.size();
-    const std::basic_string_view<Unit> units = TakeLine(&rest);
-    const std::size_t end = text.size() - rest.size();
-    wide.clear();
-    encoding->AppendWide(units, &wide);
-    const ProfileLine<wchar_t> line = ParseLine<wchar_t>(wide);
-    if (line.IsHeader()) {
-      if (place.hasSection) break;
-      if (SameName(line.name, section)) place = {end, end, true};
-    } else if (place.hasSection && line.IsKey() && SameName(line.name, key)) {
-      const bool hasValue = line.kind == ProfileLine<wchar_t>::Kind::Key;
-      const auto name = Spelled(units.substr(0, units.find('=')));
-      return {begin, end, true, true, hasValue, name, std::wstring(line.value)};
-    } else if (place.hasSection && (line.IsKey() || (line.IsComment() && !hasKeys))) {
-      hasKeys = line.IsKey();
-      place.begin = place.end = end;
-    }
-  }
-  return place;
 }
 
 /// The bytes of a profile after key is set to value, or removed if value is null.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/portable/Ascii.h"
 #include "platform/portable/LetterCase.h"
 
 namespace tavrin::platform {
@@ -89,27 +88,6 @@ std::wstring_view StripSpaces(std::wstring_view name) {
   return name;
 }
 
-void NarrowEncoding::AppendWide(std::string_view text, std::wstring* wide) {
-  if (IsAscii(text)) {
-    AppendAsIs(text, wide);
-  } else {
-    Codec().AppendWide(text, LocaleCodec::Undecodable::Replace, wide);
-  }
-}
-
-void NarrowEncoding::AppendUnits(std::wstring_view wide, std::string* text) {
-  if (IsAscii(wide)) {
-    AppendAsIs(wide, text);
-  } else {
-    Codec().AppendNarrow(wide, text);
-  }
-}
-
-const LocaleCodec& NarrowEncoding::Codec() {
-  if (!codec_) codec_.emplace();
-  return *codec_;
-}
-
 std::u16string Utf16Encoding::FromBytes(std::string_view bytes) {
   std::u16string text(bytes.size() / 2, u'\0');
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -135,6 +113,11 @@ void Utf16Encoding::AppendWide(std::u16string_view text, std::wstring* wide) {
     char32_t c = text[i];
     const char32_t next = i + 1 < text.size() ? text[i + 1] : 0;
     if (IsSurrogateOf(kHighSurrogates, c) && IsSurrogateOf(kLowSurrogates, next)) {
+      if (sizeof(wchar_t) == sizeof(char16_t)) {
+        wide->append({static_cast<wchar_t>(c), static_cast<wchar_t>(next)});
+        ++i;
+        continue;
+      }
       c = kFirstAstral + (c - kHighSurrogates) * kSurrogatesPerHalf + (next - kLowSurrogates);
       ++i;
     } else if (IsSurrogateOf(kHighSurrogates, c) || IsSurrogateOf(kLowSurrogates, c)) {
@@ -157,17 +140,6 @@ void Utf16Encoding::AppendUnits(std::wstring_view wide, std::u16string* text) {
       text->push_back(static_cast<char16_t>(c));
     }
   }
-}
-
-std::wstring DecodeProfile(const std::string& bytes) {
-  std::wstring wide;
-  if (Utf16Encoding::HasMark(bytes)) {
-    const std::u16string text = Utf16Encoding::FromBytes(bytes);
-    Utf16Encoding::AppendWide(std::u16string_view(text).substr(Utf16Encoding::kMarkLength), &wide);
-  } else {
-    NarrowEncoding().AppendWide(bytes, &wide);
-  }
-  return wide;
 }
 
 }  // namespace tavrin::platform

@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
-
-#include "platform/portable/LocaleCodec.h"
 
 namespace tavrin::platform {
 
@@ -89,25 +86,6 @@ bool SameName(std::basic_string_view<Char> a, std::basic_string_view<Char> b);
 /// A section or key as the caller names it, without the spaces round it.
 std::wstring_view StripSpaces(std::wstring_view name);
 
-/// The user's narrow encoding.
-class NarrowEncoding {
- public:
-  using Unit = char;
-
-  static constexpr std::size_t kMarkLength = 0;
-
-  static std::string FromBytes(std::string bytes) { return bytes; }
-  static std::string ToBytes(std::string text) { return text; }
-
-  void AppendWide(std::string_view text, std::wstring* wide);
-  void AppendUnits(std::wstring_view wide, std::string* text);
-
- private:
-  const LocaleCodec& Codec();
-
-  std::optional<LocaleCodec> codec_;  // Costly to make, and ASCII does without.
-};
-
 /// Little-endian UTF-16 with a mark as its first unit. Odd byte counts lose their last byte.
 class Utf16Encoding {
  public:
@@ -122,8 +100,5 @@ class Utf16Encoding {
   static void AppendWide(std::u16string_view text, std::wstring* wide);
   static void AppendUnits(std::wstring_view wide, std::u16string* text);
 };
-
-/// Decodes the bytes of a profile, without the mark.
-std::wstring DecodeProfile(const std::string& bytes);
 
 }  // namespace tavrin::platform
