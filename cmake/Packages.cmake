@@ -7,6 +7,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime development tool documentation)
 set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/packages/Options.cmake)
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/packages/Permissions.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/packages/Order.cmake)
 set(CPACK_TAVRIN_SOURCE_DIR ${PROJECT_SOURCE_DIR})
 
 set(system ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})

@@ -47,6 +47,9 @@ if(EXISTS ${stage}/tool)
   # The system knows where the library is.
   file(RPATH_REMOVE FILE ${stage}/tool/usr/bin/tavrin)
   depends_on(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS tool usr/bin/tavrin)
+  # Where Debian's zsh looks.
+  set(functions ${stage}/tool/usr/share/zsh)
+  file(RENAME ${functions}/site-functions ${functions}/vendor-completions)
 endif()
 file(REMOVE_RECURSE ${stage}/debian_runtime/DEBIAN ${stage}/tool/DEBIAN)
 
@@ -65,11 +68,6 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   file(GLOB pages ${stage}/${component}/usr/share/man/man*/*)
   run(gzip -9n ${documents}/changelog ${pages})
 endforeach()
-
-set(share ${stage}/tool/usr/share)
-if(EXISTS ${share}/zsh/site-functions)
-  file(RENAME ${share}/zsh/site-functions ${share}/zsh/vendor-completions)
-endif()
 set(documents ${stage}/debian_development/usr/share/doc/libtavrinlib-dev)
 file(CREATE_LINK ../${name}/examples ${documents}/examples SYMBOLIC)
 set(share ${stage}/documentation/usr/share)

@@ -2,6 +2,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "check/RuleList.h"
 #include "check/Rules.h"
 #include "check/Utf8.h"
 
@@ -25,14 +26,7 @@ bool IsNoText(const std::string& line) {
 
 /// What one line tells by itself, whatever was lost of the others.
 bool IsOfOneLine(const Finding& finding) {
-  static constexpr std::string_view kRules[] = {
-      "address",       "beyond-ascii",   "digits-beyond-ascii", "digits-lost",
-      "fields-beyond", "implausible",    "key-twice",           "long-text",
-      "long-value",    "no-equals-sign", "no-number",           "no-slice",
-      "no-value",      "number-in-part", "number-range",        "out-of-range",
-      "quotes",        "switch-value",   "text-behind-header",  "undecodable",
-      "unknown-key",   "value-comment",  "value-range"};
-  return std::find(std::begin(kRules), std::end(kRules), finding.rule) != std::end(kRules);
+  return FindRule(finding.rule)->scope == Rule::Scope::Line;
 }
 
 /// The line from which on the file is no text; 0 when it is one throughout.

@@ -1,7 +1,9 @@
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "check/LineEdits.h"
 #include "check/Rules.h"
 #include "definition/ValueConversion.h"
 #include "keys/KeyFacts.h"
@@ -17,6 +19,7 @@ struct Table {
   const char* countKey;
   const char* entry;  ///< what the keys of its entries begin with
   const char* slotKey;
+  const char* noun;  ///< of an entry
   const InkTable& entries;
 };
 
@@ -51,9 +54,11 @@ void CheckMissingEntries(const Check& check, const Table& table) {
     if (code->found || check.reading.lines.Find(NameKeyOf(*code)) != nullptr) ++present;
   }
   if (count == nullptr || count->number < 1.0 || count->number <= present) return;
-  check.Warn("entries-missing", table.countKey, "fewer entries than it counts are there",
-             "the printer gets " + std::to_string(table.entries.size()) + " of them",
-             "write the missing entries or lower it");
+  check.Warn(
+      "entries-missing", table.countKey, "fewer entries than it counts are there",
+      "the printer gets " + (table.entries.size() == 0 ? std::string("no ") + table.noun + 's'
+                                                       : Counted(table.entries.size(), table.noun)),
+      "write the missing entries or lower it");
 }
 
 /// What ids of inks of the type are as a number, which is what categories go by. In those of types
@@ -96,13 +101,39 @@ void CheckCodes(const Check& check, const Table& table) {
   }
 }
 
+/// A slot whose codes are each one of the other table.
+///
+/// @return whether it is such a one.
+bool CheckSwappedCodes(const Check& check, std::int32_t slot) {
+  const PrinterConfig& config = *check.reading.config;
+  const WatchedRead* color = check.reading.FindNumber(Numbered("ColorCodeInkSlot#", slot));
+  const WatchedRead* type = check.reading.FindNumber(Numbered("InkTypeCodeInkSlot#", slot));
+  const auto colorCode = static_cast<std::int32_t>(color->number);
+  const auto typeCode = static_cast<std::int32_t>(type->number);
+  if (config.Colors.Find(colorCode) != nullptr || config.InkTypes.Find(typeCode) != nullptr ||
+      config.Colors.Find(typeCode) == nullptr || config.InkTypes.Find(colorCode) == nullptr)
+    return false;
+  Finding& finding = check.Warn(
+      "unknown-code", color->key, "the codes of colour and ink type have changed places",
+      Numbered("slot # holds no known ink", slot),
+      Numbered("write # here and ", typeCode) + Numbered("# for ", colorCode) + type->key);
+  const KeyLine* colorLine = check.reading.lines.Find(color->key);
+  const KeyLine* typeLine = check.reading.lines.Find(type->key);
+  if (colorLine == nullptr || typeLine == nullptr) return true;
+  AddValueEdit(*typeLine, kWholeValue, std::to_string(colorCode), Certainty::Certain, &finding);
+  AddValueEdit(*colorLine, kWholeValue, std::to_string(typeCode), Certainty::Certain, &finding);
+  return true;
+}
+
 /// Of a slot that is not valid, the code that its table lacks.
-void CheckSlotCodes(const Check& check, const Table& table) {
+void CheckSlotCodes(const Check& check, const Table& table, const std::set<std::int32_t>& judged) {
   for (const auto& slot : check.reading.config->InkSlots) {
     const std::string number = std::to_string(slot->GetSlotNumber());
     const WatchedRead* read = check.reading.FindNumber(table.slotKey + number);
     const auto code = static_cast<std::int32_t>(read->number);
-    if (slot->IsValid() || table.entries.Find(code) != nullptr) continue;
+    if (slot->IsValid() || table.entries.Find(code) != nullptr ||
+        judged.count(slot->GetSlotNumber()) != 0)
+      continue;
     check.Warn("unknown-code", read->key,
                Numbered(std::string("no ") + table.entry + "NNNCode is #", code),
                "slot " + number + " holds no known ink", "name a code of the table");
@@ -110,13 +141,21 @@ void CheckSlotCodes(const Check& check, const Table& table) {
 }
 
 void CheckBuiltInSlots(const Check& check) {
+  const auto& slots = check.reading.config->InkSlots;
   std::string invalid;
-  for (const auto& slot : check.reading.config->InkSlots) {
-    if (!slot->IsValid()) invalid += ' ' + std::to_string(slot->GetSlotNumber());
+  std::size_t count = 0;
+  for (const auto& slot : slots) {
+    if (slot->IsValid()) continue;
+    invalid += ' ' + std::to_string(slot->GetSlotNumber());
+    ++count;
   }
   if (invalid.empty()) return;
-  check.Warn("slots-without-ink", kSlotCount, "the tables lack codes that the built-in slots name",
-             "these slots hold no known ink:" + invalid, "write slots for the tables");
+  Finding& finding = check.Warn(
+      "slots-without-ink", kSlotCount, "the tables lack codes that the built-in slots name",
+      "these slots hold no known ink:" + invalid, "write slots for the tables");
+  finding.sum = count == slots.size() ? "no slot holds a known ink"
+                : count == 1          ? "1 slot holds no known ink"
+                                      : std::to_string(count) + " slots hold no known ink";
 }
 
 /// Whether the last of the slots that are counted could be read, which is when none stopped it.
@@ -129,29 +168,44 @@ bool HasSlotsOfItsOwn(const Reading& reading) {
 
 void CheckCategories(const Check& check) {
   std::string empty;
+  std::size_t count = 0;
   const auto& categories = check.reading.config->InkCategories;
   for (std::size_t i = 0; i < categories.size(); ++i) {
     if (!categories[i]->slots.empty()) continue;
+    ++count;
     empty += (empty.empty() ? "" : " and ") + std::to_string(i) + ' ' + Quoted(categories[i]->name);
   }
   if (empty.empty()) return;
-  check.Add("empty-category", Severity::Error, kSlotCount, "no slot is in ink category " + empty,
-            "the query for its slots fails", "give a slot an ink of that category");
+  const bool isOne = count == 1;
+  Finding& finding = check.Add(
+      "empty-category", Severity::Error, kSlotCount, "no slot is in ink category " + empty,
+      isOne ? "the query for its slots fails" : "the queries for their slots fail",
+      "give a slot an ink of that category");
+  finding.sum = count == categories.size()
+                    ? "no ink category has a slot"
+                    : std::to_string(count) + " of " + std::to_string(categories.size()) +
+                          " ink categories " + (isOne ? "has" : "have") + " no slot";
+  finding.sum += ", so " + finding.effect;
 }
 
 }  // namespace
 
 void CheckInks(const Check& check) {
   const Table tables[] = {
-      {"NumOfColor", "Color", "ColorCodeInkSlot", check.reading.config->Colors},
-      {"NumOfInkType", "InkType", "InkTypeCodeInkSlot", check.reading.config->InkTypes},
+      {"NumOfColor", "Color", "ColorCodeInkSlot", "colour", check.reading.config->Colors},
+      {"NumOfInkType", "InkType", "InkTypeCodeInkSlot", "ink type", check.reading.config->InkTypes},
   };
   const bool hasSlots = HasSlotsOfItsOwn(check.reading);
+  std::set<std::int32_t> swapped;
+  for (const auto& slot : check.reading.config->InkSlots) {
+    const auto number = static_cast<std::int32_t>(slot->GetSlotNumber());
+    if (hasSlots && !slot->IsValid() && CheckSwappedCodes(check, number)) swapped.insert(number);
+  }
   for (const Table& table : tables) {
     CheckCount(check, table.countKey);
     CheckMissingEntries(check, table);
     CheckCodes(check, table);
-    if (hasSlots) CheckSlotCodes(check, table);
+    if (hasSlots) CheckSlotCodes(check, table, swapped);
   }
   CheckCount(check, kSlotCount);
   if (!hasSlots) CheckBuiltInSlots(check);

@@ -12,7 +12,28 @@ namespace {
 
 constexpr char kNoEffect[] = "the line has no effect";
 
+/// A name that is a value, and a value that is the name of a key.
+bool CheckSwapped(const Check& check, const KeyLine& line) {
+  std::int32_t number = 0;
+  if (check.reading.KnownKeyOf(line.value, &number) == nullptr ||
+      check.reading.lines.Find(line.value) != nullptr ||
+      !Takes(check.reading, line.value, line.name))
+    return false;
+  Finding& finding = check.Add("unknown-key", line.number, Severity::Warning, line.name,
+                               "key and value are the wrong way round", kNoEffect,
+                               "write " + line.value + '=' + Shortened(line.name));
+  finding.meant = line.value;
+  finding.certainty = Certainty::Likely;
+  return true;
+}
+
+/// A line that is nothing but words, as a comment is.
+bool IsProse(const std::string& name) {
+  return name.find(' ') != std::string::npos;
+}
+
 void CheckUnknownKey(const Check& check, const KeyLine& line) {
+  if (line.hasEquals && CheckSwapped(check, line)) return;
   const KeySuggestion meant = SuggestKey(check.reading, line.name, line.value);
   const bool isCertain = line.hasEquals && meant.certainty == Certainty::Certain;
   std::string remedy = "remove it";
@@ -21,6 +42,8 @@ void CheckUnknownKey(const Check& check, const KeyLine& line) {
         ", as " + meant.present->name + " is in line " + std::to_string(meant.present->number);
   } else if (!meant.key.empty()) {
     remedy = "write " + meant.key;
+  } else if (!line.hasEquals && IsProse(line.name)) {
+    remedy = "write ; before it if it is a comment, or remove it";
   }
   Finding& finding = check.Add(
       line.hasEquals ? "unknown-key" : "no-equals-sign", line.number, Severity::Warning, line.name,
@@ -40,6 +63,14 @@ void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string
   // The thicknesses of other settings are what a setting is picked from.
   const bool isChoice =
       governor == "CuttingMarginSetting" && check.reading.FindNumber(governor) != nullptr;
+  if (isChoice && number == 0) {
+    check
+        .Add("counted-from-zero", line.number, Severity::Warning, line.name,
+             governor + " 0 means none, so nothing asks for number 0", kNoEffect,
+             "number the settings from 1")
+        .certainty = Certainty::Likely;
+    return;
+  }
   const bool isWritten = check.reading.lines.Find(governor) != nullptr;
   check.Add("uncalled-key", line.number, isChoice ? Severity::Note : Severity::Warning, line.name,
             Numbered(governor + " does not ask for number #", number), kNoEffect,

@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 
+#include "check/JudgedKeys.h"
 #include "check/Rules.h"
 
 namespace tavrin::tool {
@@ -23,9 +24,11 @@ void CheckDefaultMode(const Check& check) {
   const std::int32_t number = check.reading.config->DefaultMode;
   const bool isWritten = check.reading.lines.Find("DefaultMode") != nullptr;
   if ((check.reading.config->Modes.empty() && !isWritten) || HasMode(check, number)) return;
-  check.Add("unknown-default-mode", check.reading.LineOf(isWritten ? "DefaultMode" : "Mode"),
-            Severity::Warning, "DefaultMode", Numbered(kNoSuchMode, number),
-            "the default is a mode that no host finds", "name one of the modes");
+  check
+      .Add("unknown-default-mode", check.reading.LineOf(isWritten ? "DefaultMode" : "Mode"),
+           Severity::Warning, "DefaultMode", Numbered(kNoSuchMode, number),
+           "the default is a mode that no host finds", "name one of the modes")
+      .missingMode = number;
 }
 
 }  // namespace
@@ -34,8 +37,10 @@ void CheckModes(const Check& check) {
   CheckDefaultMode(check);
   for (const std::int32_t number : check.reading.limitationModes) {
     if (HasMode(check, number)) continue;
-    check.Warn("unknown-limited-mode", "LimitationMode", Numbered(kNoSuchMode, number),
-               "the number has no effect", "name one of the modes");
+    check
+        .Warn("unknown-limited-mode", "LimitationMode", Numbered(kNoSuchMode, number),
+              "the number has no effect", "name one of the modes")
+        .missingMode = number;
   }
   std::set<std::int32_t> seen;
   for (const std::int32_t number : check.reading.modes) {
@@ -44,11 +49,13 @@ void CheckModes(const Check& check) {
                HasMode(check, number) ? "the printer gets it once more" : "it is left out again",
                "list each mode once");
   }
+  const JudgedKeys judged(check);
   for (const auto& mode : check.reading.config->Modes) {
     // What is out of range is said of lengths of every kind.
     const bool isOutOfRange = mode->SliceSize == std::numeric_limits<std::int32_t>::min();
     if (mode->SliceSize > 0 || isOutOfRange || seen.erase(mode->Number) == 0) continue;
     const std::string key = Numbered("Mode#SliceSize", mode->Number);
+    if (judged.Contains(key)) continue;
     check.Warn("no-slice", key,
                check.reading.FindNumber(key)->number == 0.0 ? "the slice is 0"
                : mode->SliceSize == 0 ? "the slice is cut to whole um, which leaves 0"

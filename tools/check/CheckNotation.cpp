@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <cctype>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "check/KeySuggestion.h"
 #include "check/Rules.h"
@@ -22,6 +22,37 @@ std::string Trimmed(const std::string& text) {
   return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
 }
 
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// Whether names of keys have such characters: whatever the locale, those of ASCII alone.
+bool IsOfName(char c) {
+  return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+}
+
+/// What comments of other formats begin with; a line of such characters alone is a ruler.
+std::string MarkOf(const std::string& line) {
+  constexpr std::size_t kShortestRuler = 3;
+  const bool isRuler = line.size() >= kShortestRuler &&
+                       line.find_first_not_of(line.front()) == std::string::npos &&
+                       line.front() > ' ' && line.front() < 0x7F && !IsOfName(line.front());
+  if (isRuler) return line;
+  for (const char* mark : {"//", "/*", "<!--", "--", "#", "%", "!"}) {
+    if (BeginsWith(line, mark)) return mark;
+  }
+  return BeginsWith(Folded(line), "rem ") ? line.substr(0, 3) : std::string();
+}
+
+/// The mark that the line has in place of ;. Empty when it is no comment.
+std::string CommentMarkOf(const KeyLine& line) {
+  const std::string written = Trimmed(line.text);
+  const std::string mark = MarkOf(written);
+  // Other marks can be a slip in front of a key.
+  const bool isAlways = mark == "#" || mark == "//" || mark == "/*" || mark == "<!--";
+  return !line.hasEquals || isAlways || mark == written ? mark : std::string();
+}
+
 /// Looks for lines as other formats have them.
 class NotationCheck {
  public:
@@ -34,7 +65,9 @@ class NotationCheck {
   bool JudgeConflict(std::size_t at);
   bool JudgeContinuation(std::size_t at);
   bool JudgeColon(const KeyLine& line);
-  bool JudgeBlank(const KeyLine& line);
+  bool JudgeOtherSign(const KeyLine& line);
+  bool JudgeValueBelow(std::size_t at);
+  bool JudgeSecondKey(const KeyLine& line);
   Finding& Warn(const KeyLine& line, const char* rule, const std::string& key,
                 const std::string& what, const std::string& effect, const std::string& remedy) {
     judged_.insert(line.number);
@@ -56,27 +89,38 @@ std::set<std::size_t> NotationCheck::Judge() {
   for (std::size_t i = 0; i < keys_.size(); ++i) {
     const KeyLine& line = keys_[i];
     if (judged_.count(line.number) != 0 || line.hasNul) continue;
-    if (JudgeComment(line) || JudgeConflict(i) || JudgeContinuation(i)) continue;
-    if (line.place == KeyLine::Place::Section) JudgeColon(line) || JudgeBlank(line);
+    if (JudgeConflict(i) || JudgeComment(line) || JudgeContinuation(i)) continue;
+    if (line.place == KeyLine::Place::Section)
+      JudgeColon(line) || JudgeOtherSign(line) || JudgeValueBelow(i) || JudgeSecondKey(line);
   }
   return judged_;
 }
 
 bool NotationCheck::JudgeComment(const KeyLine& line) {
+  const std::string mark = CommentMarkOf(line);
+  if (mark.empty()) return false;
   const std::size_t at = line.text.find_first_not_of(kBlanks);
-  const bool isSlashes = line.text.compare(at, 2, "//") == 0;
-  if (!isSlashes && line.text[at] != '#') return false;
-  const std::string mark = isSlashes ? "//" : "#";
-  Finding& finding = Warn(line, "comment-mark", mark, "comments begin with ; alone",
-                          "the line counts as a key that nothing reads", "write ; for " + mark);
+  const bool isRuler = mark.size() > 2 && mark == Trimmed(line.text);
+  Finding& finding = Warn(line, "comment-mark", Shortened(mark), "comments begin with ; alone",
+                          "the line counts as a key that nothing reads",
+                          isRuler ? "write ; before it" : "write ; for " + mark);
   finding.column = at + 1;
   finding.certainty = Certainty::Certain;
-  finding.edits = {{line.number, at, mark.size(), ";"}};
+  finding.edits = {{line.number, at, isRuler ? 0 : mark.size(), isRuler ? "; " : ";"}};
   return true;
+}
+
+bool IsLoneMark(const std::string& line) {
+  return BeginsWith(line, ">>>>>>> ") || BeginsWith(line, "||||||| ");
 }
 
 /// One side of a conflict and the other are both read, line by line.
 bool NotationCheck::JudgeConflict(std::size_t at) {
+  if (IsLoneMark(keys_[at].text)) {
+    Warn(keys_[at], "merge-conflict", keys_[at].text.substr(0, 7), "a mark of a merge is left",
+         kNoEffect, "see whether the lines around it are those that are meant, and remove it");
+    return true;
+  }
   if (!BeginsWith(keys_[at].text, "<<<<<<<")) return false;
   const auto begin = keys_.begin() + static_cast<std::ptrdiff_t>(at);
   const auto end = std::find_if(
@@ -151,22 +195,89 @@ bool NotationCheck::JudgeColon(const KeyLine& line) {
   return true;
 }
 
-bool NotationCheck::JudgeBlank(const KeyLine& line) {
+/// A key and a value with anything but = between them, such as the sign of another script.
+bool NotationCheck::JudgeOtherSign(const KeyLine& line) {
   if (line.hasEquals) return false;
-  const std::size_t begin = line.text.find_first_not_of(kBlanks);
-  const std::size_t blank = line.text.find_first_of(" \t", begin);
-  if (blank == std::string::npos) return false;
-  const std::string name = line.text.substr(begin, blank - begin);
-  const std::string value = Trimmed(line.text.substr(blank));
+  const auto begin = std::find_if(line.text.begin(), line.text.end(), IsOfName);
+  const auto end = std::find_if_not(begin, line.text.end(), IsOfName);
+  const std::string name(begin, end);
+  auto rest = std::find_if(end, line.text.end(), [](char c) {
+    return IsOfName(c) || std::string_view("+-.\"'").find(c) != std::string_view::npos;
+  });
+  if (rest == end && rest != line.text.end() && *rest == '-') ++rest;
+  std::string value(rest, line.text.end());
+  const std::size_t tag = value.find("</");  // as in XML
+  value = Trimmed(value.substr(0, tag));
   if (value.empty() || !IsMissing(name, value)) return false;
-  Warn(line, "no-equals-sign", name, "a line without = gives no value", kNoEffect,
-       "write " + name + '=' + Shortened(value))
-      .certainty = Certainty::Likely;
-  check_.findings->back().meant = name;
+  Finding& finding = Warn(line, "no-equals-sign", name, "a line without = gives no value",
+                          kNoEffect, "write " + name + '=' + Shortened(value));
+  finding.certainty = Certainty::Likely;
+  finding.meant = name;
   return true;
 }
 
+/// A value that stands in the line below its key.
+bool NotationCheck::JudgeValueBelow(std::size_t at) {
+  const KeyLine& line = keys_[at];
+  if (!line.hasEquals || at + 1 == keys_.size()) return false;
+  const KeyLine& next = keys_[at + 1];
+  const bool isList = !line.value.empty() && line.value.back() == ',';
+  const std::string value = line.value + Trimmed(next.text);
+  std::int32_t number = 0;
+  if (next.hasEquals || next.number != line.number + 1 || (!line.value.empty() && !isList) ||
+      check_.reading.lines.Find(line.name) != &line ||
+      check_.reading.KnownKeyOf(line.name, &number) == nullptr ||
+      !Takes(check_.reading, line.name, Trimmed(next.text)))
+    return false;
+  Finding& finding =
+      Warn(line, "line-continuation", line.name, "its value goes on in the next line",
+           "what stands there is not read", "write it in one line");
+  finding.meant = line.name;
+  judged_.insert(next.number);
+  if (PlainPart(value) != value) return true;
+  finding.certainty = Certainty::Likely;
+  return true;
+}
+
+/// A second key behind the value of the first.
+bool NotationCheck::JudgeSecondKey(const KeyLine& line) {
+  const std::string written = Trimmed(line.text.substr(line.text.find('=') + 1));
+  if (line.value != written) return false;  // it stands in quotes
+  const std::size_t first = line.text.find('=');
+  for (std::size_t equals = line.text.find('=', first + 1); equals != std::string::npos;
+       equals = line.text.find('=', equals + 1)) {
+    const std::size_t last = line.text.find_last_not_of(kBlanks, equals - 1);
+    std::size_t begin = last;
+    while (begin > first && IsOfName(line.text[begin]))
+      --begin;
+    ++begin;
+    // A number can run into the name.
+    const bool isApart = begin > first + 1 && std::string_view(" \t,;").find(
+                                                  line.text[begin - 1]) != std::string_view::npos;
+    while (!isApart && begin <= last && IsDigit(line.text[begin]))
+      ++begin;
+    const std::size_t end = line.text.find_last_not_of(" \t,;", begin - 1) + 1;
+    const bool isNumber = IsDigit(line.text[end - 1]);
+    const std::string name = line.text.substr(begin, last + 1 - begin);
+    if ((!isApart && !isNumber) || end <= first + 1 ||
+        !IsMissing(name, Trimmed(line.text.substr(equals + 1))))
+      continue;
+    Finding& finding = Warn(line, "two-keys", line.name, name + " stands in the same line",
+                            "it is part of the value", "write it in a line of its own");
+    finding.column = begin + 1;
+    finding.certainty = Certainty::Certain;
+    finding.edits = {{line.number, end, begin - end, "\n"}};
+    finding.meant = name;
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
+
+bool IsForeignComment(const KeyLine& line) {
+  return !CommentMarkOf(line).empty();
+}
 
 std::set<std::size_t> CheckNotation(const Check& check) {
   return NotationCheck(check).Judge();

@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "check/JudgedKeys.h"
 #include "check/Rules.h"
 #include "definition/IntegerConversion.h"
 #include "definition/TextConversion.h"
@@ -19,23 +19,6 @@ namespace tavrin::tool {
 namespace {
 
 using Form = KeyFacts::Form;
-
-/// The keys whose values other rules have judged already: one mistake is one finding.
-class JudgedKeys {
- public:
-  explicit JudgedKeys(const Findings& findings) {
-    for (const Finding& finding : findings) {
-      if (finding.severity > Severity::Note) judged_.emplace(finding.line, finding.key);
-    }
-  }
-
-  bool Contains(const Check& check, const std::string& key) const {
-    return judged_.count({check.reading.LineOf(key), Shortened(key)}) != 0;
-  }
-
- private:
-  std::set<std::pair<std::size_t, std::string>> judged_;
-};
 
 struct Unit {
   const char* name;
@@ -227,7 +210,7 @@ void RangeCheck::Locate(Finding* finding, std::size_t field, const std::string& 
 /// Whether the key has a value that can be trusted where values are compared.
 bool IsSound(const Check& check, const JudgedKeys& judged, const std::string& key) {
   const WatchedRead* read = check.reading.Find(key);
-  return read != nullptr && read->found && !judged.Contains(check, key);
+  return read != nullptr && read->found && !judged.Contains(key);
 }
 
 void CheckSides(const Check& check, const JudgedKeys& judged) {
@@ -243,7 +226,7 @@ void CheckSides(const Check& check, const JudgedKeys& judged) {
 }
 
 void CheckMargin(const Check& check, const JudgedKeys& judged) {
-  if (!IsSound(check, judged, "PrintMargin") || judged.Contains(check, "PrinterSize")) return;
+  if (!IsSound(check, judged, "PrintMargin") || judged.Contains("PrinterSize")) return;
   const PrinterConfig& config = *check.reading.config;
   const double margin = config.PrintMargin / kMicrometresPerMillimetre;
   const double side = std::min(config.PrinterSize.x, config.PrinterSize.y);
@@ -263,23 +246,25 @@ void CheckColorThickness(const Check& check, const JudgedKeys& judged) {
         !IsSound(check, judged, slice) || !IsSound(check, judged, color) ||
         !seen.insert(mode->Number).second)
       continue;
-    check.Warn("implausible", color,
-               "the colour layer is thinner than a slice of " +
-                   NumberText(mode->SliceSize / kMicrometresPerMillimetre) + " mm",
-               kAsItIs, "look whether it and " + slice + " are swapped");
+    check
+        .Warn("implausible", color,
+              "the colour layer is thinner than a slice of " +
+                  NumberText(mode->SliceSize / kMicrometresPerMillimetre) + " mm",
+              kAsItIs, "look whether it and " + slice + " are swapped")
+        .certainty = Certainty::Likely;
   }
 }
 
 }  // namespace
 
 void CheckRanges(const Check& check) {
-  const JudgedKeys judged(*check.findings);
+  const JudgedKeys judged(check);
   for (const WatchedRead& read : check.reading.reads) {
-    if (read.found && !judged.Contains(check, read.key)) RangeCheck(check, read).CheckAll();
+    if (read.found && !judged.Contains(read.key)) RangeCheck(check, read).CheckAll();
   }
-  const JudgedKeys judgedByNow(*check.findings);
+  const JudgedKeys judgedByNow(check);
   CheckSides(check, judgedByNow);
-  CheckMargin(check, JudgedKeys(*check.findings));
+  CheckMargin(check, JudgedKeys(check));
   CheckColorThickness(check, judgedByNow);
 }
 

@@ -35,7 +35,7 @@ std::vector<Section> SectionsOf(const Check& check) {
   auto key = lines.Keys().begin();
   const auto addKeysBefore = [&](std::size_t line) {
     for (; key != lines.Keys().end() && key->number < line; ++key) {
-      if (check.reading.Confirms(*key)) sections.back().Add(check, *key);
+      if (check.reading.Confirms(*key) && !IsForeignComment(*key)) sections.back().Add(check, *key);
     }
   };
   for (const SectionHeader& header : lines.Headers()) {

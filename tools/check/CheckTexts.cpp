@@ -4,8 +4,10 @@
 #include <vector>
 
 #include "check/HostAddress.h"
+#include "check/JudgedKeys.h"
 #include "check/Rules.h"
 #include "check/Utf8.h"
+#include "check/ValueRemark.h"
 #include "keys/KeyFacts.h"
 
 namespace tavrin::tool {
@@ -113,7 +115,8 @@ class TextCheck {
   /// @return whether there is something amiss.
   bool CheckQuotes() const;
   bool CheckFieldQuotes() const;
-  bool CheckComment() const;
+  bool CheckSign() const;
+  bool CheckRemark() const;
   void CheckAddress() const;
 
  private:
@@ -196,27 +199,26 @@ bool TextCheck::CheckFieldQuotes() const {
   return true;
 }
 
-bool TextCheck::CheckComment() const {
+/// Other notations have two characters between key and value.
+bool TextCheck::CheckSign() const {
   const std::string_view text = value_.Text();
+  const std::size_t length = std::min(text.find_first_not_of("=>"), text.size());
+  if (length == 0) return false;
+  const std::size_t next = std::min(text.find_first_not_of(kBlanks, length), text.size());
+  Finding& finding =
+      Warn("second-equals-sign", 0,
+           Quoted(std::string(text)) + " begins with " + (text.front() == '=' ? "another =" : ">"),
+           "it is part of the value", "remove it");
+  if (next < text.size()) Replace(&finding, 0, next, "");
+  return true;
+}
+
+bool TextCheck::CheckRemark() const {
   if (value_.IsQuoted()) return false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const std::string_view rest = text.substr(i);
-    const std::size_t next = rest.find_first_not_of(kBlanks, 1);
-    const bool isBehindBlank = i == 0 || IsOneOf(text[i - 1], kBlanks);
-    const bool isSure = isBehindBlank && (rest.front() == ';' || rest.substr(0, 2) == "//");
-    // In front of a digit, # means a number.
-    const bool isHash = isBehindBlank && rest.front() == '#' &&
-                        (next == std::string_view::npos || !IsOneOf(rest[next], kDigits));
-    const bool isSemicolon = rest.front() == ';' && (next > 1 || read_.key == "Version");
-    if (!isSure && !isHash && !isSemicolon) continue;
-    const std::size_t begin = i == 0 ? 0 : text.find_last_not_of(kBlanks, i - 1) + 1;
-    Finding& finding = Warn("value-comment", i, "there is no comment behind a value",
-                            Quoted(std::string(rest)) + " is part of it",
-                            "remove it, or write it above in a line that begins with ;");
-    if (isSure && i > 0) Replace(&finding, begin, text.size() - begin, "");
-    return true;
-  }
-  return false;
+  const bool isName = read_.key != "Version" && read_.key != "IPAddress";
+  const auto remark = RemarkIn(value_.Text(), isName);
+  if (remark) AddRemark(check_, line_, read_.key, value_.Column(), *remark);
+  return remark.has_value();
 }
 
 void TextCheck::CheckAddress() const {
@@ -287,6 +289,7 @@ void LeaveOutConsequences(const Check& check, std::size_t line) {
 
 void CheckTexts(const Check& check) {
   EncodingCheck encoding;
+  const JudgedKeys judged(check);
   for (const WatchedRead& read : check.reading.reads) {
     const KeyLine* line = check.reading.lines.Find(read.key);
     if (!read.found || line == nullptr || !check.reading.Confirms(*line)) continue;
@@ -294,7 +297,8 @@ void CheckTexts(const Check& check) {
     const KeyFacts& facts = FactsOf(check.reading.KnownKeyOf(read.key, &number)->Shape());
     const bool isText = read.kind == WatchedRead::Kind::Text && facts.form == KeyFacts::Form::Text;
     const TextCheck text(check, read, *line);
-    if (isText && text.CheckComment()) continue;
+    const bool isFree = isText && !judged.Contains(read.key);
+    if (isFree && (text.CheckSign() || text.CheckRemark())) continue;
     if ((!isText && text.CheckFieldQuotes()) || text.CheckQuotes()) {
       LeaveOutConsequences(check, line->number);
       continue;

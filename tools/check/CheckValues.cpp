@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <cwchar>
@@ -6,10 +7,14 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "check/JudgedKeys.h"
 #include "check/LineEdits.h"
 #include "check/NumberMeaning.h"
 #include "check/Rules.h"
+#include "check/ValueRemark.h"
 #include "definition/IntegerConversion.h"
 #include "definition/TextConversion.h"
 #include "definition/ValueConversion.h"
@@ -66,9 +71,19 @@ class ValueCheck {
 
  private:
   void CheckLength() const;
+  /// What stands behind a number or a list.
+  ///
+  /// @return whether anything does.
+  bool CheckRemark() const;
+  /// Says once what several fields of a list have alike.
+  bool ExplainFields(const std::vector<std::string>& fields, bool isInteger) const;
+  /// The meaning as far as it can be what the printer is to get.
+  NumberMeaning Plausible(NumberMeaning meaning) const;
+  /// The code that a slot names by its name.
+  std::optional<NumberMeaning> MeaningOfName(const std::wstring& field) const;
   void CheckField(const std::wstring& field, bool isInteger, std::size_t index) const;
   /// Says what was meant where that can be told, with the remedy.
-  bool Explain(const std::optional<NumberMeaning>& meaning, std::size_t index,
+  bool Explain(const std::optional<NumberMeaning>& supposed, std::size_t index,
                const std::string& effect) const;
   WantedNumber Wanted(bool isInteger, bool isInList) const;
   void CheckSize(const std::wstring& field, double number) const;
@@ -123,7 +138,7 @@ void ValueCheck::CheckText() const {
   CheckLength();
   if (line_ != nullptr && line_->hasNul)
     Warn("nul", "a NUL ends the name or the value", kRestHasNoEffect, "remove it");
-  if (read_.kind == Kind::Text && NarrowCopy(read_.text).empty()) {
+  if (facts_.form == Form::Text && NarrowCopy(read_.text).empty()) {
     Warn("unencodable", "the value has a character that the user's encoding lacks",
          "the printer gets an empty text", "do without that character");
   }
@@ -145,6 +160,7 @@ void ValueCheck::CheckLength() const {
 }
 
 void ValueCheck::CheckFields() const {
+  if (CheckRemark()) return;
   if (read_.kind != Kind::Text) {
     CheckField(read_.text, read_.kind == Kind::Integer, kWholeValue);
     return;
@@ -168,10 +184,57 @@ void ValueCheck::CheckFields() const {
     Warn("fields-missing", count, Outcome(), "write all of them");
     return;
   }
+  if (fields.size() > wanted) {
+    Warn("fields-beyond", count, kRestHasNoEffect, "write those that are meant");
+    return;
+  }
+  if (isList && ExplainFields(fields, isInteger)) return;
   for (std::size_t i = 0; i < wanted; ++i)
     CheckField(WideCopy(fields[i]), isInteger, isList ? i : kWholeValue);
-  if (fields.size() > wanted)
-    Warn("fields-beyond", count, kRestHasNoEffect, "write those that are meant");
+}
+
+bool ValueCheck::ExplainFields(const std::vector<std::string>& fields, bool isInteger) const {
+  std::optional<NumberMeaning> whole;
+  std::size_t count = 0;
+  std::string list;
+  for (const std::string& field : fields) {
+    const auto meaning = MeaningOf(WideCopy(field), Wanted(isInteger, true));
+    const bool isMeant = meaning && !meaning->number.empty();
+    list += (list.empty() ? "" : ",") + (isMeant ? meaning->number : std::string(Trim(field)));
+    if (!isMeant) continue;
+    ++count;
+    if (!whole) whole = meaning;
+    whole->certainty = std::min(whole->certainty, meaning->certainty);
+  }
+  if (count < 2) return false;
+  whole->what += ", likewise " + Counted(count - 1, "more field");
+  whole->number = list;
+  return Explain(whole, kWholeValue, kRestHasNoEffect);
+}
+
+bool ValueCheck::CheckRemark() const {
+  if (facts_.form == Form::Text || line_ == nullptr || !check_.reading.Confirms(*line_))
+    return false;
+  const bool isList = facts_.form == Form::Integers || facts_.form == Form::Numbers;
+  const std::string_view value =
+      Trim(std::string_view(line_->text).substr(line_->text.find('=') + 1));
+  const auto remark = RemarkIn(value, false);
+  if (!remark || (isList && value[remark->mark] == ',')) return false;
+  std::vector<std::string> fields = {std::string(value.substr(0, remark->end))};
+  if (isList) Split(std::string(fields.front()), &fields);
+  const bool areNumbers = std::all_of(fields.begin(), fields.end(), [](const std::string& field) {
+    double number = 0.0;
+    std::string written;
+    const std::string trimmed(Trim(field));
+    EndOfNumber(WideCopy(trimmed), false, &written);
+    return ParseDouble(trimmed, &number) && written == trimmed;
+  });
+  const bool goesOn =
+      !remark->text.empty() && std::isdigit(static_cast<unsigned char>(remark->text.front())) != 0;
+  if (!areNumbers || goesOn || (facts_.fields != 0 && fields.size() != facts_.fields)) return false;
+  AddRemark(check_, *line_, read_.key, static_cast<std::size_t>(value.data() - line_->text.data()),
+            *remark);
+  return true;
 }
 
 WantedNumber ValueCheck::Wanted(bool isInteger, bool isInList) const {
@@ -182,15 +245,47 @@ WantedNumber ValueCheck::Wanted(bool isInteger, bool isInList) const {
   return {isInteger, shape == "SupportExtendAngle", isInList, off};
 }
 
-bool ValueCheck::Explain(const std::optional<NumberMeaning>& meaning, std::size_t index,
+NumberMeaning ValueCheck::Plausible(NumberMeaning meaning) const {
+  std::vector<std::string> fields;
+  Split(meaning.number, &fields);
+  const bool isUsual = std::all_of(fields.begin(), fields.end(), [this](const std::string& field) {
+    double number = 0.0;
+    ParseDouble(field, &number);
+    return facts_.range.Contains(number) && (number == 0.0 || facts_.usual.Contains(number));
+  });
+  if (isUsual) return meaning;
+  if (meaning.certainty == Certainty::Likely) meaning.number.clear();
+  meaning.certainty = std::min(meaning.certainty, Certainty::Likely);
+  return meaning;
+}
+
+bool ValueCheck::Explain(const std::optional<NumberMeaning>& supposed, std::size_t index,
                          const std::string& effect) const {
-  if (!meaning) return false;
+  if (!supposed) return false;
+  const NumberMeaning meaning = Plausible(*supposed);
   Finding& finding =
-      Warn(meaning->rule, meaning->what, effect,
-           meaning->number.empty() ? "write the number that is meant" : "write " + meaning->number);
-  if (!meaning->number.empty() && line_ != nullptr && check_.reading.Confirms(*line_))
-    AddValueEdit(*line_, index, meaning->number, meaning->certainty, &finding);
+      Warn(meaning.rule, meaning.what, effect,
+           meaning.number.empty() ? "write the number that is meant" : "write " + meaning.number);
+  if (!meaning.number.empty() && line_ != nullptr && check_.reading.Confirms(*line_))
+    AddValueEdit(*line_, index, meaning.number, meaning.certainty, &finding);
   return true;
+}
+
+std::optional<NumberMeaning> ValueCheck::MeaningOfName(const std::wstring& field) const {
+  const std::string shape = facts_.shape;
+  const PrinterConfig& config = *check_.reading.config;
+  const InkTable* table = shape == "ColorCodeInkSlot#"     ? &config.Colors
+                          : shape == "InkTypeCodeInkSlot#" ? &config.InkTypes
+                                                           : nullptr;
+  if (table == nullptr) return std::nullopt;
+  const std::string name = NarrowCopy(field);
+  for (std::size_t i = 0; i < table->size(); ++i) {
+    const IdentifiableData& entry = (*table)[i];
+    if (Folded(entry.name) == Folded(name))
+      return NumberMeaning{"no-number", Quoted(name) + " is the name, not the code",
+                           std::to_string(entry.code), Certainty::Certain};
+  }
+  return std::nullopt;
 }
 
 void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size_t index) const {
@@ -202,8 +297,14 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size
   const bool converts = isInteger ? ParseInt(field, &integer) : ParseDouble(field, &number);
   const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
   const bool isWhole = converts && std::all_of(end, field.end(), isBlank);
-  if (!isWhole && Explain(MeaningOf(field, Wanted(isInteger, index != kWholeValue)), index,
-                          converts ? "the printer gets " + written : Outcome()))
+  if (!converts && Explain(MeaningOfName(field), index, Outcome())) return;
+  // Of UTF-16 every machine reads the same.
+  const bool isForeign =
+      !check_.reading.lines.IsUtf16() &&
+      std::any_of(field.begin(), field.end(), [](wchar_t c) { return c >= 0x80; });
+  if ((!isWhole || isForeign) &&
+      Explain(MeaningOf(field, Wanted(isInteger, index != kWholeValue)), index,
+              converts ? "the printer gets " + written : Outcome()))
     return;
   if (!converts) {
     const bool isNumber = !isInteger && !written.empty();
@@ -248,10 +349,12 @@ void ValueCheck::CheckRange() const {
 }  // namespace
 
 void CheckValues(const Check& check) {
+  const JudgedKeys judged(check);
   for (const WatchedRead& read : check.reading.reads) {
     const ValueCheck value(check, read);
     if (read.found) {
       value.CheckText();
+      if (judged.Contains(read.key)) continue;
       value.CheckFields();
       value.CheckRange();
     } else if (check.reading.loads || read.key != "Version") {

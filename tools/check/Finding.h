@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +43,8 @@ struct Finding {
   Certainty certainty = Certainty::None;
   std::vector<Edit> edits = {};  ///< what following the remedy changes, where it is certain
   std::string meant = {};        ///< the key that the line was to be, if it is another one
+  std::string sum = {};  ///< its effect as one of those of a cause, where that is put otherwise
+  std::optional<std::int32_t> missingMode = {};  ///< the mode that it finds the printer to lack
 };
 
 using Findings = std::vector<Finding>;

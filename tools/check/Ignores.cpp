@@ -78,7 +78,7 @@ void CheckIgnores(const Check& check) {
     if (!request.isForCheck) continue;
     if (request.verb != "ignore") warn(comment.number, "no ignore follows", "write ignore and ids");
     for (const std::string& id : request.ids) {
-      if (IsRule(id) || request.verb != "ignore") continue;
+      if (FindRule(id) != nullptr || request.verb != "ignore") continue;
       const std::string nearest = NearestName(id, RuleIds());
       warn(comment.number, "no finding has the id " + Quoted(id),
            nearest.empty() ? "write the id that a finding ends with" : "write " + nearest);

@@ -28,7 +28,9 @@ std::string InAscii(wchar_t c) {
   static const std::map<wchar_t, const char*> kLike = {
       {0x00B5, "u"},  {0x03BC, "u"}, {0x2212, "-"}, {0x2013, "-"},   {0x00A0, " "},
       {0x202F, " "},  {0x2009, " "}, {0x00D7, "x"}, {0x00B0, "deg"}, {0x2033, "\""},
-      {0x201D, "\""}, {0x2019, "'"}, {0xFF0E, "."}, {0xFF0C, ","}};
+      {0x201D, "\""}, {0x2019, "'"}, {0xFF0E, "."}, {0xFF0C, ","},   {0x00B7, "."},
+      {0x066B, "."},  {0x060C, ","}, {0x3001, ","}, {0xFF1B, ";"},   {0x2044, "/"},
+      {0x200B, ""},   {0x200C, ""},  {0x200D, ""},  {0x2060, ""},    {0xFEFF, ""}};
   if (c > 0 && c < 0x80) return std::string(1, static_cast<char>(c));
   const auto zero = std::find_if(std::begin(kZeros), std::end(kZeros),
                                  [c](wchar_t first) { return c >= first && c <= first + 9; });
@@ -44,6 +46,12 @@ std::string InAscii(const std::wstring& text) {
     ascii += InAscii(c);
   const std::size_t begin = std::min(ascii.find_first_not_of(" \t"), ascii.size());
   return ascii.substr(begin, ascii.find_last_not_of(" \t") - begin + 1);
+}
+
+/// In quotes, unless the user's encoding lacks a character of it.
+std::string Named(const std::wstring& text) {
+  const std::string narrow = NarrowCopy(text);
+  return narrow.empty() && !text.empty() ? "the value" : Quoted(narrow);
 }
 
 bool IsNumber(const std::string& text, bool isInteger) {
@@ -81,7 +89,7 @@ double NumberOf(const std::string& text) {
 class Field {
  public:
   Field(const std::wstring& field, const WantedNumber& wanted)
-      : quoted_(Quoted(NarrowCopy(field))),
+      : quoted_(Named(field)),
         text_(InAscii(field)),
         isForeign_(std::any_of(field.begin(), field.end(), [](wchar_t c) { return c >= 0x80; })),
         wanted_(wanted) {}
@@ -97,7 +105,6 @@ class Field {
   Meaning AsQuantity();
   Meaning AsFraction();
   Meaning AsPieces();
-  Meaning AsCommented();
   /// Patterns are compiled once.
   bool Matches(const char* pattern) {
     static std::map<std::string, std::regex> compiled;
@@ -118,9 +125,9 @@ class Field {
 };
 
 Meaning Field::Read() {
-  for (const auto reader : {&Field::AsSwitch, &Field::AsOtherCharacters, &Field::AsOtherNotation,
-                            &Field::AsGroups, &Field::AsDecimalComma, &Field::AsQuantity,
-                            &Field::AsFraction, &Field::AsPieces, &Field::AsCommented}) {
+  for (const auto reader :
+       {&Field::AsSwitch, &Field::AsOtherCharacters, &Field::AsOtherNotation, &Field::AsGroups,
+        &Field::AsDecimalComma, &Field::AsQuantity, &Field::AsFraction, &Field::AsPieces}) {
     if (const Meaning meaning = (this->*reader)()) return meaning;
   }
   return std::nullopt;
@@ -141,8 +148,10 @@ Meaning Field::AsSwitch() {
 Meaning Field::AsOtherCharacters() {
   if (isForeign_ && IsNumber(text_, wanted_.isInteger))
     return Mean("digits-beyond-ascii", "has characters beyond ASCII", text_, Certainty::Certain);
-  if (Matches("=\\s*(\\S+)") && IsNumber(match_[1], wanted_.isInteger))
-    return Mean("second-equals-sign", "begins with another =", match_[1], Certainty::Certain);
+  if (Matches("[=>]+\\s*(\\S+)") && IsNumber(match_[1], wanted_.isInteger))
+    return Mean("second-equals-sign", "begins with another = or >", match_[1], Certainty::Certain);
+  if (wanted_.isInteger && Matches("[Mm][Oo][Dd][Ee] ?#?(\\d+)"))
+    return Mean("no-number", "is a key, not its number", match_[1], Certainty::Certain);
   if (!Matches("[+-]?[.\\dOolI]*\\d[.\\dOolI]*")) return std::nullopt;
   const std::string withZeros = Replaced(Replaced(text_, 'O', '0'), 'o', '0');
   const std::string digits = Replaced(Replaced(withZeros, 'l', '1'), 'I', '1');
@@ -242,13 +251,6 @@ Meaning Field::AsPieces() {
               Certainty::Likely);
 }
 
-Meaning Field::AsCommented() {
-  if (!Matches("([+-]?[\\d.]+)[ \\t]*(;|#|//).*") || !IsNumber(match_[1], wanted_.isInteger))
-    return std::nullopt;
-  return Mean("comment-behind-number", "has a comment, which belongs to the value", match_[1],
-              Certainty::Likely);
-}
-
 std::vector<std::string> Fields(const std::string& list) {
   static const std::regex kComma("[ \\t]*,[ \\t]*");
   return {std::sregex_token_iterator(list.begin(), list.end(), kComma, -1), {}};
@@ -268,6 +270,38 @@ bool AreNumbers(const std::vector<std::string>& fields, std::size_t count, bool 
          });
 }
 
+std::vector<std::string> WithoutEmpty(std::vector<std::string> fields) {
+  fields.erase(std::remove(fields.begin(), fields.end(), ""), fields.end());
+  return fields;
+}
+
+/// All ways to read some pairs of fields as numbers with a decimal comma so that as many numbers
+/// come out as are wanted. Three digits behind a comma may be thousands.
+void JoinPairs(const std::vector<std::string>& fields, std::size_t at, std::size_t count,
+               const std::string& list, std::vector<std::string>* found) {
+  static const std::regex kWhole("[+-]?\\d+");
+  static const std::regex kDecimals("\\d{1,2}");
+  constexpr std::size_t kEnough = 2;
+  if (found->size() == kEnough || fields.size() - at < count) return;
+  if (at == fields.size()) {
+    if (count == 0) found->push_back(list.substr(1));
+    return;
+  }
+  if (count == 0) return;
+  if (IsNumber(fields[at], false))
+    JoinPairs(fields, at + 1, count - 1, list + ',' + fields[at], found);
+  if (at + 1 < fields.size() && std::regex_match(fields[at], kWhole) &&
+      std::regex_match(fields[at + 1], kDecimals))
+    JoinPairs(fields, at + 2, count - 1, list + ',' + fields[at] + '.' + fields[at + 1], found);
+}
+
+/// The list with full stops for decimal commas; empty where it can be read in more ways than one.
+std::string WithDecimalCommas(const std::vector<std::string>& fields, std::size_t count) {
+  std::vector<std::string> found;
+  JoinPairs(fields, 0, count, {}, &found);
+  return found.size() == 1 ? found.front() : std::string();
+}
+
 }  // namespace
 
 Meaning MeaningOf(const std::wstring& field, const WantedNumber& wanted) {
@@ -279,24 +313,29 @@ Meaning MeaningOf(const std::wstring& field, const WantedNumber& wanted) {
 Meaning MeaningOfList(const std::wstring& list, std::size_t count, bool ofIntegers) {
   constexpr std::size_t kLongest = 520;  // patterns recurse
   if (list.size() > kLongest) return std::nullopt;
-  const std::string quoted = Quoted(NarrowCopy(list));
+  const std::string quoted = Named(list);
   const std::string text = InAscii(list);
   std::vector<std::string> fields = Fields(text);
   static const std::regex kHexadecimal("(^|.*\\D)0[xX].*");
-  if (AreNumbers(fields, count, ofIntegers) || std::regex_match(text, kHexadecimal))
+  const bool isForeign = std::any_of(list.begin(), list.end(), [](wchar_t c) { return c >= 0x80; });
+  if ((!isForeign && AreNumbers(fields, count, ofIntegers)) || std::regex_match(text, kHexadecimal))
     return std::nullopt;
-  if (!ofIntegers && count != 0 && AreNumbers(fields, 2 * count, true)) {
-    std::vector<std::string> pairs;
-    for (std::size_t i = 0; i < fields.size(); i += 2)
-      pairs.push_back(fields[i] + '.' + fields[i + 1]);
-    // As three digits behind a comma may be thousands.
-    const bool isShort = std::all_of(pairs.begin(), pairs.end(), [](const std::string& pair) {
-      return pair.size() - pair.find('.') <= 3;
-    });
-    if (isShort && AreNumbers(pairs, count, false))
-      return NumberMeaning{"decimal-comma", quoted + " has decimal commas", Joined(pairs),
-                           Certainty::Certain};
+  if (AreNumbers(fields, count, ofIntegers))
+    return NumberMeaning{"digits-beyond-ascii", quoted + " has characters beyond ASCII",
+                         Joined(fields), Certainty::Certain};
+  if (!ofIntegers && fields.size() > count && count != 0) {
+    const std::string joined = WithDecimalCommas(fields, count);
+    const bool areAll = AreNumbers(fields, 2 * count, true);
+    // Otherwise a field can be one too many.
+    const bool isOne = areAll || text.find('.') != std::string::npos;
+    if (!joined.empty() && isOne)
+      return NumberMeaning{"decimal-comma", quoted + " has decimal commas", joined,
+                           areAll ? Certainty::Certain : Certainty::Likely};
   }
+  const std::vector<std::string> full = WithoutEmpty(fields);
+  if (full.size() < fields.size() && AreNumbers(full, count, ofIntegers))
+    return NumberMeaning{"list-separator", quoted + " has an empty field", Joined(full),
+                         Certainty::Certain};
   static const std::regex kBrackets("[(\\[{](.*)[)\\]}]");
   static const std::regex kSeparators("[ \\t]*[;*|][ \\t]*|[ \\t]+by[ \\t]+|[ \\t]*[xX][ \\t]*");
   static const std::regex kBlanks("[ \\t]+");
@@ -311,6 +350,10 @@ Meaning MeaningOfList(const std::wstring& list, std::size_t count, bool ofIntege
           count == 0 && candidate != inner && candidate != separated ? Certainty::Likely
                                                                      : Certainty::Certain};
   }
+  fields = Fields(Replaced(text, '.', ','));
+  if (Fields(text).size() < count && AreNumbers(fields, count, true))
+    return NumberMeaning{"list-separator", quoted + " has a full stop for a comma", Joined(fields),
+                         Certainty::Likely};
   return std::nullopt;
 }
 

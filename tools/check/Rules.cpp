@@ -13,7 +13,7 @@ namespace tavrin::tool {
 Finding& Check::Add(const char* rule, std::size_t line, Severity severity, const std::string& key,
                     const std::string& what, const std::string& effect,
                     const std::string& remedy) const {
-  if (!IsRule(rule)) throw std::logic_error(std::string("no rule has the id ") + rule);
+  if (FindRule(rule) == nullptr) throw std::logic_error(std::string("no rule has the id ") + rule);
   findings->push_back(
       {rule, line, severity, key.empty() ? Quoted(key) : Shortened(key), what, effect, remedy});
   return findings->back();

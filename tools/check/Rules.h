@@ -34,6 +34,9 @@ std::string Counted(std::size_t count, const std::string& noun);
 /// The text with the number in place of each '#'.
 std::string Numbered(const std::string& text, std::int32_t number);
 
+/// Whether the line begins as comments of other formats do.
+bool IsForeignComment(const KeyLine& line);
+
 /// All that the rules find, in the order of the lines.
 Findings FindAll(const Reading& reading);
 

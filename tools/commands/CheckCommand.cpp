@@ -74,7 +74,9 @@ void CheckFile(const std::string& file, const CheckOptions& options, FileReports
       throw Failure("standard input", "cannot be changed in place", "name a file or take --diff");
     const Bytes bytes = ReadInput(file);
     // What programs read is not to be mixed with it.
-    std::ostream& out = options.format == "text" ? std::cout : std::cerr;
+    std::ostream shown((options.format == "text" ? std::cout : std::cerr).rdbuf());
+    std::ostream silent(nullptr);
+    std::ostream& out = options.isQuiet ? silent : shown;
     const DefinitionReading definition =
         options.fixes ? FixInPlace(file, bytes, out) : ReadDefinition(bytes);
     if (options.showsDifference) PreviewFix(file, definition.reading, out);
@@ -131,7 +133,7 @@ ExitStatus CheckFiles(const CheckOptions& options) {
 
 /// What is wrong with an id on the command line; empty when nothing is.
 std::string MistakeInId(const std::string& id) {
-  if (IsRule(id)) return {};
+  if (FindRule(id) != nullptr) return {};
   const std::string nearest = NearestName(id, RuleIds());
   return id + " is no id of a finding" + (nearest.empty() ? "" : ", did you mean " + nearest + '?');
 }
@@ -163,7 +165,9 @@ void AddCheck(CLI::App* app, ExitStatus* status) {
   AddChoice(command, "--color", &options->color, {"auto", "always", "never"},
             "Whether severities are coloured; auto: on a terminal, unless NO_COLOR is\n"
             "set or TERM is dumb");
-  command->add_flag("--quiet", options->isQuiet, "Print no findings; the exit status tells");
+  CLI::Option* quiet =
+      command->add_flag("--quiet", options->isQuiet,
+                        "Print neither findings nor what --fix changes; the exit status tells");
   CLI::Option* fix = command->add_flag(
       "--fix", options->fixes,
       "Follow the remedies that are certain, in the files themselves, and print what\n"
@@ -171,7 +175,8 @@ void AddCheck(CLI::App* app, ExitStatus* status) {
   command
       ->add_flag("--diff", options->showsDifference,
                  "Print what --fix would change, in place of findings; change nothing")
-      ->excludes(fix);
+      ->excludes(fix)
+      ->excludes(quiet);
   command->footer(
       "A finding is a line file:line:column: severity: key: what happened, what the printer\n"
       "gets instead, what to do [id]. An error keeps the definition from loading or a query\n"

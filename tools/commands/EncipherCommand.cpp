@@ -1,5 +1,7 @@
 #include "commands/EncipherCommand.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -12,25 +14,38 @@
 #include "definition/FileCipher.h"
 #include "files/FilePath.h"
 #include "files/FileTransfer.h"
+#include "files/StandardStreams.h"
 
 namespace tavrin::tool {
 
 namespace {
 
+/// Says how much there is to look at in a definition that is enciphered all the same.
+void TellFindings(const std::string& ini, const Findings& findings) {
+  const auto count = static_cast<std::size_t>(
+      std::count_if(findings.begin(), findings.end(),
+                    [](const Finding& finding) { return finding.severity > Severity::Note; }));
+  if (count == 0 || !IsTerminal()) return;
+  PrintText(ini + ": " + Counted(count, "finding") + " that tavrin check tells\n");
+}
+
 /// Refuses a definition that no printer could use: one that is enciphered, or that does not load.
 /// What shows no definition at all passes, so that a damaged file can be turned back and forth.
-void CheckPlain(const std::string& ini, const Bytes& bytes) {
+///
+/// @return what there is to find in one that loads.
+Findings CheckPlain(const std::string& ini, const Bytes& bytes) {
   const auto container = ContainerOf(bytes);
   if (container == Container::Enciphered) {
     throw Failure(ini, "is enciphered already",
                   "name the plain file first, or --force enciphers it once more",
                   ExitStatus::Errors);
   }
-  if (container != Container::Plain) return;
+  if (container != Container::Plain) return {};
   const Reading reading(bytes);
-  if (reading.loads) return;
+  Findings findings = FindAll(reading);
+  if (reading.loads) return findings;
   std::string cause;
-  for (const Finding& finding : FindAll(reading)) {
+  for (const Finding& finding : findings) {
     if (finding.severity != Severity::Error) continue;
     cause = ": line " + std::to_string(finding.line) + ": " + Printable(finding.key) + ": " +
             Printable(finding.what);
@@ -53,9 +68,10 @@ std::filesystem::perms PermissionsLike(const std::string& ini) {
 void Encipher(const std::string& ini, const std::string& definition, bool isForced) {
   CheckTransfer(ini, definition);
   Bytes bytes = ReadInput(ini);
-  if (!isForced) CheckPlain(NameOfInput(ini), bytes);
-  WriteOutput(definition, Ciphered(NameOfInput(ini), std::move(bytes), EncryptBuffer),
-              PermissionsLike(ini));
+  const std::string name = NameOfInput(ini);
+  const Findings findings = isForced ? Findings() : CheckPlain(name, bytes);
+  WriteOutput(definition, Ciphered(name, std::move(bytes), EncryptBuffer), PermissionsLike(ini));
+  if (definition != kStandardStream) TellFindings(name, findings);
 }
 
 }  // namespace
@@ -78,7 +94,8 @@ void AddEncipher(CLI::App* app) {
   command->footer(
       "A new definition gets the INI file's permissions; one that is replaced keeps its own, and\n"
       "one that is read-only is not replaced. A new one made of standard input can be read by its\n"
-      "owner alone. What is refused or empty leaves the definition as it was.\n\n"
+      "owner alone. What is refused or empty leaves the definition as it was. On a terminal, what\n"
+      "tavrin check would tell is counted.\n\n"
       "Example: tavrin encipher printer.ini printer.dat\n"
       "         tavrin decipher old.dat - | sed s/Cyan/Blue/ | tavrin encipher - new.dat");
   command->callback([options] { Encipher(options->ini, options->definition, options->isForced); });

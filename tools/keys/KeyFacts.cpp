@@ -337,7 +337,8 @@ std::string Spoken(const KeyFacts& facts, const std::string& value) {
     case Form::Integer:
       return value;
     case Form::Integers:
-      return Counted(fields.size(), facts.unit);
+      return fields.empty() ? std::string("no ") + facts.unit + 's'
+                            : Counted(fields.size(), facts.unit);
     case Form::Number:
       return value + ' ' + facts.unit;
     case Form::Numbers:
