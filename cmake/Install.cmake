@@ -23,7 +23,7 @@ function(tavrin_install_library libdir prefix)
     LIBRARY DESTINATION ${libdir} ${runtime} NAMELINK_COMPONENT ${prefix}development
     ARCHIVE DESTINATION ${libdir} ${development}
     PUBLIC_HEADER DESTINATION ${include_dir} ${development}
-    INCLUDES DESTINATION ${include_dir})
+    INCLUDES DESTINATION ${include_dir} ${CMAKE_INSTALL_INCLUDEDIR})
   install(EXPORT ${prefix}TavrinLib NAMESPACE TavrinLib:: FILE TavrinLibConfig.cmake
     DESTINATION ${package_dir} ${development})
   install(FILES ${PROJECT_BINARY_DIR}/TavrinLibConfigVersion.cmake
@@ -38,14 +38,22 @@ function(tavrin_install_library libdir prefix)
   file(RELATIVE_PATH prefix_from_pkgconfig /prefix/${pkgconfig_dir} /prefix)
   string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
   set(pkgconfig_file ${PROJECT_BINARY_DIR}/${pkgconfig_dir}/TavrinLib.pc)
+  set(pkgconfig_library -lTavrinLib)
+  if(MINGW)
+    # By the file's name, as -static lets -l look for static libraries alone.
+    set(pkgconfig_library -l:libTavrinLib.dll.a)
+  endif()
   configure_file(${PROJECT_SOURCE_DIR}/cmake/TavrinLib.pc.in ${pkgconfig_file} @ONLY)
   install(FILES ${pkgconfig_file} DESTINATION ${pkgconfig_dir} ${development})
 
-  install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/ DESTINATION ${examples_dir} ${development})
+  if(PROJECT_IS_TOP_LEVEL)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/ DESTINATION ${examples_dir} ${development})
+  endif()
 endfunction()
 
 tavrin_install_library(${CMAKE_INSTALL_LIBDIR} "")
-if(CMAKE_LIBRARY_ARCHITECTURE)
+# In one set of exports alone a host's own exports can refer to the library.
+if(PROJECT_IS_TOP_LEVEL AND CMAKE_LIBRARY_ARCHITECTURE)
   # Where Debian has the libraries of several architectures beside each other.
   tavrin_install_library(lib/${CMAKE_LIBRARY_ARCHITECTURE} debian_ EXCLUDE_FROM_ALL)
 endif()
@@ -71,11 +79,14 @@ if(TARGET tavrin)
   endif()
 endif()
 
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT documentation
-  FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
-if(TARGET tavrin_reference)
-  get_target_property(reference_dir tavrin_reference BINARY_DIR)
-  install(DIRECTORY ${reference_dir}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
-    COMPONENT documentation OPTIONAL)
+if(PROJECT_IS_TOP_LEVEL)
+  install(FILES README.md CHANGELOG.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+  install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT documentation
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+  if(TARGET tavrin_reference)
+    get_target_property(reference_dir tavrin_reference BINARY_DIR)
+    install(DIRECTORY ${reference_dir}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
+      COMPONENT documentation OPTIONAL)
+  endif()
 endif()

@@ -1,5 +1,6 @@
-# How every target of this project is compiled: warnings, sanitizers, hidden symbols.
+# How every target of this project is compiled: the language, which may be newer, warnings, sanitizers, hidden symbols.
 function(tavrin_target target)
+  target_compile_features(${target} PRIVATE cxx_std_17)
   if(MSVC)
     target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive-
       $<$<BOOL:${TAVRIN_WARNINGS_AS_ERRORS}>:/WX>)

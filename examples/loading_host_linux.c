@@ -10,7 +10,7 @@
 #define FILE_OF(major) "libTavrinLib.so." TEXT_OF(major)
 
 void* OpenLibrary(const char* file) {
-  return dlopen(file ? file : FILE_OF(TAVRIN_VERSION_MAJOR), RTLD_NOW | RTLD_LOCAL);
+  return dlopen(file ? file : FILE_OF(TAVRIN_VERSION_MAJOR), RTLD_NOW);
 }
 
 void CloseLibrary(void* library) {

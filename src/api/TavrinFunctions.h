@@ -2,12 +2,15 @@
 /// The exports of TavrinLib as types, for a host that links nothing and loads the library while it
 /// runs, with `dlopen` or `LoadLibrary`.
 ///
-/// `TavrinInitializeFunction` is a pointer to a function such as TavrinInitialize(), and so with each
-/// export.
+/// `TavrinInitializeFunction` is a pointer to a function such as TavrinInitialize(), and so with
+/// each export.
 #ifndef TAVRIN_FUNCTIONS_H
 #define TAVRIN_FUNCTIONS_H
 
 #include "TavrinLib.h"
+
+/// @defgroup loading Loading at run time
+/// The exports as types, and the version of the library that they belong to.
 
 /// @cond
 typedef bool (*TavrinInitializeFunction)(const char* path);
@@ -39,6 +42,7 @@ typedef bool (*TavrinGetInkSlotFunction)(uint32_t slotNumber, InkSlot** slot);
 typedef bool (*TavrinCreateModelingConditionsFileFunction)(const char* path);
 /// @endcond
 
+/// @ingroup loading
 /// Applies the macro X to the name of every export. That fills a TavrinFunctions:
 ///
 ///     #define FIND(name) tavrin.name = (name##Function)dlsym(library, #name);
@@ -71,6 +75,7 @@ typedef bool (*TavrinCreateModelingConditionsFileFunction)(const char* path);
   X(TavrinGetInkSlot)                      \
   X(TavrinCreateModelingConditionsFile)
 
+/// @ingroup loading
 /// A pointer to every export, under the export's own name: `tavrin.TavrinInitialize(path)`.
 struct TavrinFunctions {
 #define TAVRIN_FUNCTION_MEMBER(name) name##Function name;

@@ -58,6 +58,10 @@ extern "C" {
 typedef struct InkSlot InkSlot;
 #endif
 
+/// @defgroup life_cycle Life cycle
+/// Loading a printer definition, releasing it, and why a call has failed.
+/// @{
+
 /// The last-error codes. No other value is ever stored.
 enum TavrinErrorCode {
   /// Nothing has failed since the library was loaded. Only an initial value, never stored.
@@ -109,6 +113,12 @@ TAVRIN_API bool TavrinFinalize(void);
 /// @param code receives one of #TavrinErrorCode.
 /// @return always true, with or without a loaded definition.
 TAVRIN_API bool TavrinGetLastError(uint32_t* code);
+
+/// @}
+
+/// @defgroup printer Printer
+/// What the printer can do and how it is set up: lengths, print modes, support, switches, identity.
+/// @{
 
 /// Asks for the build volume.
 ///
@@ -270,6 +280,12 @@ TAVRIN_API bool TavrinGetAutoCleaning(bool* enabled);
 /// @return false with #ErrorNotInitialized when no definition is loaded.
 TAVRIN_API bool TavrinGetCheckNozzleWhilePrinting(bool* enabled);
 
+/// @}
+
+/// @defgroup inks Inks
+/// The ink slots, the categories that they make up, and how their arrays are given back.
+/// @{
+
 /// Asks how many ink categories there are. Their indices for
 /// TavrinGetInkSlotNumConposeInkCategory() run from 0 to count - 1.
 ///
@@ -309,6 +325,12 @@ TAVRIN_API bool TavrinGetItemCountOfInkSlot(uint32_t* count);
 ///         recording nothing, when there is no slot of that number.
 TAVRIN_API bool TavrinGetInkSlot(uint32_t slotNumber, InkSlot** slot);
 
+/// @}
+
+/// @defgroup output Output
+/// The modeling conditions file, which tells the printer what a job was made for.
+/// @{
+
 /// Writes the loaded printer definition, enciphered as it was, to a modeling conditions file. The
 /// file is identical to the definition file that was loaded, byte for byte, and can be loaded as
 /// one. A file that is there is replaced.
@@ -320,6 +342,8 @@ TAVRIN_API bool TavrinGetInkSlot(uint32_t slotNumber, InkSlot** slot);
 /// @return false with #ErrorNotInitialized when no definition is loaded or path is null; false with
 ///         #ErrorWriteFailed when the file cannot be opened for writing.
 TAVRIN_API bool TavrinCreateModelingConditionsFile(const char* path);
+
+/// @}
 
 #ifdef __cplusplus
 }

@@ -25,6 +25,7 @@ __declspec(dllimport) int __stdcall HeapFree(void* heap, unsigned long flags, vo
 #include <stdlib.h>
 #endif
 
+/// @ingroup inks
 /// Releases an array that the library has handed out: the slot numbers of
 /// TavrinGetInkSlotNumConposeInkCategory(), the texts of InkSlot::GetInkId() and
 /// InkSlot::GetInkName(). On Windows they come from the heap of the process, elsewhere from its

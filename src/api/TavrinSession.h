@@ -30,6 +30,10 @@
 /// The C++17 layer over the exports.
 namespace tavrinlib {
 
+/// @defgroup session C++17 layer
+/// The same as values, with units, exceptions and a session that releases by itself.
+/// @{
+
 /// A length in mm.
 struct Millimetres {
   double count = 0.0;  ///< how many
@@ -401,6 +405,8 @@ class Session {
 
   std::uint64_t number_;
 };
+
+/// @}
 
 }  // namespace tavrinlib
 

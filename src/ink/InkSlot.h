@@ -16,6 +16,7 @@
 #define TAVRIN_CLASS
 #endif
 
+/// @ingroup inks
 /// One ink position of the printer: which colour of which ink type it holds.
 ///
 /// The library owns every slot. A pointer from TavrinGetInkSlot() stays valid until

@@ -1,0 +1,2 @@
+# No business of TavrinLib.
+set(HOST_INSTALL_INCLUDED ON)
