@@ -1,5 +1,5 @@
 // The input is a section, a key and a value, each ended by a NUL, and a profile's bytes: read,
-// written, read back and deleted.
+// written, read back and deleted, in the file and in its bytes.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -142,6 +142,25 @@ void CheckDeleting(const std::wstring& path, const Input& input) {
   Require(rest.OtherValues(input) == others, "a deletion changes no other key");
 }
 
+/// The same laws for edits of the bytes, which keep more of them. Readers do not know UTF-8's mark.
+void CheckEditing(const test::TestFolder& folder, const std::string& bytes, const Input& input) {
+  if (!CanBeWritten(input) || bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) return;
+  const auto edit = [&](const std::string& before, const wchar_t* value) {
+    return platform::EditProfile(before, input.section.c_str(), input.key.c_str(), value);
+  };
+  const std::vector<std::wstring> others =
+      Profile(WideCopy(folder.Write("before.ini", bytes))).OtherValues(input);
+  const std::string edited = edit(bytes, input.value.c_str());
+  Profile written(WideCopy(folder.Write("edited.ini", edited)));
+  Require(IsQuoted(input.value) || written.Read(input.section, input.key) == input.value,
+          "what was edited is read");
+  Require(written.OtherValues(input) == others, "an edit changes no other key");
+  Require(edit(edited, input.value.c_str()) == edited, "an edit to the same changes nothing");
+  Profile rest(WideCopy(folder.Write("rest.ini", edit(edited, nullptr))));
+  Require(rest.CountOf(input) == 0, "an edit takes away all lines of a key");
+  Require(rest.OtherValues(input) == others, "which changes no other key");
+}
+
 }  // namespace
 }  // namespace tavrin
 
@@ -155,6 +174,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   input.value = TakeText(&bytes);
   const std::wstring path = WideCopy(folder.Write("profile.ini", bytes));
   Profile(path).Read(input.section, input.key);
+  CheckEditing(folder, bytes, input);
   CheckWriting(path, input);
   CheckDeleting(path, input);
   return 0;

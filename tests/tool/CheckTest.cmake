@@ -103,7 +103,10 @@ if(UNIX AND NOT TOOL MATCHES "wine-run")
 endif()
 
 # Of many findings the gravest are shown.
-string(REPEAT "Something=1\n" 150 unknown)
+set(unknown "")
+foreach(i RANGE 1 150)
+  string(APPEND unknown "Something${i}=1\n")
+endforeach()
 file(WRITE ${WORK}/many.ini "[printer]\n${unknown}ModelName=a\n")
 run(check many.ini)
 string(REGEX MATCHALL "\n" lines "${output}")

@@ -82,6 +82,19 @@ succeed(set edited.ini IPAddress=)
 file(STRINGS ${WORK}/edited.ini last REGEX "^IPA")
 check("an empty value" last STREQUAL "IPAddress=")
 
+# A character that an encoding lacks is refused, wherever it gets lost.
+write_as(lost.ini UTF-16LE "[printer]\nVersion=1\n")
+if(UTF8)
+  succeed(set lost.ini ModelName=❤)
+  run(get lost.ini ModelName)
+  check("beyond ASCII" output STREQUAL "❤\n")
+  string(ASCII 255 lost)
+  refuse(2 "encoding cannot hold the value" set lost.ini ModelName=${lost})
+  refuse(2 "encoding cannot hold the value" set edited.ini ModelName=${lost})
+else()
+  refuse(4 "has a character that the system's code page lacks" set lost.ini ModelName=❤)
+endif()
+
 # What is refused, or there already, leaves the file alone, its place on the disk included.
 file(COPY_FILE ${WORK}/edit.ini ${WORK}/untouched.ini)
 function(same_file)

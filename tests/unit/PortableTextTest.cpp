@@ -38,9 +38,9 @@ TEST(PortableText, WithoutAUsableLocaleNarrowTextIsUtf8) {
 
 TEST(PortableText, BytesThatAreNoUtf8ComeBackUnchanged) {
   const auto choice = Variable("LC_ALL", "C.UTF-8");
-  for (const char* path :
-       {"caf\xE9.dat", "\x80\xFF", "\xC0\xAF", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80",
-        "\xF4\x90\x80\x80", "\xE0\x80\x80", "\xF0\x8F\xBF\xBF", "a\xF0\x9F\x98"}) {
+  for (const char* path : {"caf\xE9.dat", "\x80\xFF", "\xC0\xAF", "\xE2\x82", "\xED\xA0\x80",
+                           "\xED\xBF\xBF", "\xF5\x80\x80\x80", "\xF4\x90\x80\x80", "\xE0\x80\x80",
+                           "\xF0\x8F\xBF\xBF", "a\xF0\x9F\x98"}) {
     std::wstring escaped;
     for (const char* byte = path; *byte != '\0'; ++byte)
       escaped +=
@@ -59,6 +59,9 @@ TEST(PortableText, TextEndsAtItsFirstNulAndNoSurrogateHasANarrowForm) {
     EXPECT_TRUE(ToNarrow(std::wstring{L'a', c}, &narrow));
     EXPECT_EQ(narrow, "") << "what cannot be encoded empties the text";
   }
+  std::wstring wide = L"before";
+  EXPECT_TRUE(ToWide("after", &wide));
+  EXPECT_EQ(wide, L"after");
 }
 
 // The environment names the encoding.

@@ -147,6 +147,7 @@ void FoldIntoCount(Folding* folding, const std::string& governor) {
 
 void FoldConsequences(const Reading& reading, Findings* findings) {
   Folding folding(reading, std::move(*findings));
+  JoinRepeatedKeys(&folding);
   JoinWrongNumbers(&folding);
   FoldIntoMeantKeys(&folding);
   JoinHabits(&folding);
@@ -158,6 +159,7 @@ void FoldConsequences(const Reading& reading, Findings* findings) {
   JoinMissingSlotCodes(&folding);
   FoldIntoSameCodes(&folding);
   FoldSlots(&folding);
+  JoinUnknownCodes(&folding);
   *findings = folding.Kept();
 }
 

@@ -1,6 +1,9 @@
 #include <algorithm>
+#include <cstdint>
+#include <map>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "check/Folding.h"
 #include "check/Rules.h"
@@ -123,6 +126,19 @@ void FoldIntoSameCodes(Folding* folding) {
     cause.certainty = Certainty::Likely;
     folding->Fold(same.front(), unknown);
   }
+}
+
+void JoinUnknownCodes(Folding* folding) {
+  std::map<std::pair<std::string, double>, Folding::Indices> byCode;
+  for (const std::size_t i : folding->Find([](const Finding& finding) {
+         return finding.rule == "unknown-code" && finding.edits.empty();
+       })) {
+    const Finding& finding = folding->At(i);
+    byCode[{folding->SubjectOf(finding).shape, folding->reading.FindNumber(finding.key)->number}]
+        .push_back(i);
+  }
+  for (const auto& [code, slots] : byCode)
+    folding->Fold(slots.front(), slots);
 }
 
 void FoldSlots(Folding* folding) {

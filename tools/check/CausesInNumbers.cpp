@@ -1,6 +1,10 @@
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <map>
+#include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -67,11 +71,9 @@ bool HasAnyKey(const Reading& reading, const std::string& governor, std::int32_t
 
 void JoinWrongNumber(Folding* folding, const Group& group, const Folding::Indices& lines) {
   std::vector<const KnownKey*> keys;
-  std::set<std::size_t> numbers;
   for (const std::size_t i : lines) {
     std::int32_t number = 0;
     keys.push_back(folding->reading.KnownKeyOf(folding->At(i).key, &number));
-    numbers.insert(folding->At(i).line);
   }
   const std::int32_t missing = MissingNumber(*folding, group.governor, keys);
   const bool isOfList = group.governor == "Mode" && !group.isTwice &&
@@ -83,7 +85,7 @@ void JoinWrongNumber(Folding* folding, const Group& group, const Folding::Indice
   cause.what =
       (group.isTwice ? "number " + std::to_string(group.number) + " is there twice" : cause.what) +
       ", and there is no " + meant;
-  cause.effect = Idle(numbers);
+  cause.effect = Idle(folding->LinesOf(lines));
   cause.remedy = "write " + meant + (lines.size() > 1 ? " and likewise the others" : "");
   cause.certainty = Certainty::Likely;
   cause.meant = meant;
@@ -141,6 +143,22 @@ void JoinHabit(Folding* folding, const Folding::Indices& lines) {
 }
 
 }  // namespace
+
+void JoinRepeatedKeys(Folding* folding) {
+  std::map<std::string, Folding::Indices> byKey;
+  for (const std::size_t i :
+       folding->Find([](const Finding& finding) { return finding.rule == "key-twice"; }))
+    byKey[Folded(folding->At(i).key)].push_back(i);
+  for (const auto& [key, lines] : byKey) {
+    if (lines.size() < 2) continue;
+    Finding& cause = folding->At(lines.front());
+    const std::string first = std::to_string(folding->reading.lines.Find(key)->number);
+    cause.what = "only the first line of a key counts, that is line " + first;
+    cause.effect = Idle(folding->LinesOf(lines));
+    cause.remedy = "write what is meant in line " + first + " and remove the others";
+    folding->Join(lines);
+  }
+}
 
 void JoinWrongNumbers(Folding* folding) {
   std::map<Group, Folding::Indices> groups;

@@ -1,3 +1,4 @@
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
@@ -132,7 +133,7 @@ void CheckSlotCodes(const Check& check, const Table& table, const std::set<std::
     const WatchedRead* read = check.reading.FindNumber(table.slotKey + number);
     const auto code = static_cast<std::int32_t>(read->number);
     if (slot->IsValid() || table.entries.Find(code) != nullptr ||
-        judged.count(slot->GetSlotNumber()) != 0)
+        judged.count(static_cast<std::int32_t>(slot->GetSlotNumber())) != 0)
       continue;
     check.Warn("unknown-code", read->key,
                Numbered(std::string("no ") + table.entry + "NNNCode is #", code),

@@ -62,7 +62,7 @@ void CheckUncalledKey(const Check& check, const KeyLine& line, const std::string
   if (IsCalledFor(check.reading, governor, number)) return;
   // The thicknesses of other settings are what a setting is picked from.
   const bool isChoice =
-      governor == "CuttingMarginSetting" && check.reading.FindNumber(governor) != nullptr;
+      governor == "CuttingMarginSetting" && check.reading.lines.Find(governor) != nullptr;
   if (isChoice && number == 0) {
     check
         .Add("counted-from-zero", line.number, Severity::Warning, line.name,

@@ -110,6 +110,7 @@ bool NotationCheck::JudgeComment(const KeyLine& line) {
   return true;
 }
 
+/// Whether the line is a mark of a merge whose other marks need not be there.
 bool IsLoneMark(const std::string& line) {
   return BeginsWith(line, ">>>>>>> ") || BeginsWith(line, "||||||| ");
 }
@@ -222,20 +223,22 @@ bool NotationCheck::JudgeValueBelow(std::size_t at) {
   if (!line.hasEquals || at + 1 == keys_.size()) return false;
   const KeyLine& next = keys_[at + 1];
   const bool isList = !line.value.empty() && line.value.back() == ',';
-  const std::string value = line.value + Trimmed(next.text);
+  const std::string below = Trimmed(next.text);
+  // What is more than one word can be a comment that nobody marked.
+  const bool isValue = below.find(' ') == std::string::npos || isList;
   std::int32_t number = 0;
-  if (next.hasEquals || next.number != line.number + 1 || (!line.value.empty() && !isList) ||
+  if (next.hasEquals || !isValue || !CommentMarkOf(next).empty() ||
+      next.number != line.number + 1 || (!line.value.empty() && !isList) ||
       check_.reading.lines.Find(line.name) != &line ||
       check_.reading.KnownKeyOf(line.name, &number) == nullptr ||
-      !Takes(check_.reading, line.name, Trimmed(next.text)))
+      !Takes(check_.reading, line.name, below))
     return false;
   Finding& finding =
       Warn(line, "line-continuation", line.name, "its value goes on in the next line",
            "what stands there is not read", "write it in one line");
   finding.meant = line.name;
-  judged_.insert(next.number);
-  if (PlainPart(value) != value) return true;
   finding.certainty = Certainty::Likely;
+  judged_.insert(next.number);
   return true;
 }
 

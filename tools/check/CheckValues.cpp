@@ -81,7 +81,10 @@ class ValueCheck {
   NumberMeaning Plausible(NumberMeaning meaning) const;
   /// The code that a slot names by its name.
   std::optional<NumberMeaning> MeaningOfName(const std::wstring& field) const;
-  void CheckField(const std::wstring& field, bool isInteger, std::size_t index) const;
+  /// @param isKnown whether a field before it is no number either, which is said once.
+  /// @return whether it is none, and what was meant cannot be told.
+  bool CheckField(const std::wstring& field, bool isInteger, std::size_t index,
+                  bool isKnown = false) const;
   /// Says what was meant where that can be told, with the remedy.
   bool Explain(const std::optional<NumberMeaning>& supposed, std::size_t index,
                const std::string& effect) const;
@@ -189,8 +192,10 @@ void ValueCheck::CheckFields() const {
     return;
   }
   if (isList && ExplainFields(fields, isInteger)) return;
+  bool isNoNumber = false;
   for (std::size_t i = 0; i < wanted; ++i)
-    CheckField(WideCopy(fields[i]), isInteger, isList ? i : kWholeValue);
+    isNoNumber = CheckField(WideCopy(fields[i]), isInteger, isList ? i : kWholeValue, isNoNumber) ||
+                 isNoNumber;
 }
 
 bool ValueCheck::ExplainFields(const std::vector<std::string>& fields, bool isInteger) const {
@@ -288,7 +293,8 @@ std::optional<NumberMeaning> ValueCheck::MeaningOfName(const std::wstring& field
   return std::nullopt;
 }
 
-void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size_t index) const {
+bool ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size_t index,
+                            bool isKnown) const {
   std::int32_t integer = 0;
   double number = 0.0;
   std::string written;
@@ -297,7 +303,7 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size
   const bool converts = isInteger ? ParseInt(field, &integer) : ParseDouble(field, &number);
   const auto isBlank = [](wchar_t c) { return c == L' ' || c == L'\t'; };
   const bool isWhole = converts && std::all_of(end, field.end(), isBlank);
-  if (!converts && Explain(MeaningOfName(field), index, Outcome())) return;
+  if (!converts && Explain(MeaningOfName(field), index, Outcome())) return false;
   // Of UTF-16 every machine reads the same.
   const bool isForeign =
       !check_.reading.lines.IsUtf16() &&
@@ -305,7 +311,8 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size
   if ((!isWhole || isForeign) &&
       Explain(MeaningOf(field, Wanted(isInteger, index != kWholeValue)), index,
               converts ? "the printer gets " + written : Outcome()))
-    return;
+    return false;
+  if (!converts && isKnown) return true;
   if (!converts) {
     const bool isNumber = !isInteger && !written.empty();
     Warn(isNumber ? "number-range" : "no-number",
@@ -316,13 +323,14 @@ void ValueCheck::CheckField(const std::wstring& field, bool isInteger, std::size
          isInteger  ? "write an integer"
          : isNumber ? "write the number that is meant"
                     : "write a number with a full stop before its decimals");
-    return;
+    return true;
   }
   if (!isInteger) CheckSize(field, number);
-  if (isWhole) return;
+  if (isWhole) return false;
   const std::string read = Quoted(written);
   Warn("number-in-part", "only " + read + " of " + quoted + " is read", kRestHasNoEffect,
        "write the number that is meant");
+  return false;
 }
 
 /// Numbers that are held as they are read; hosts get the build volume in whole µm modulo 2^32.

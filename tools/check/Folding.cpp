@@ -78,6 +78,13 @@ std::set<std::int32_t> Folding::NumbersOf(const Indices& indices) const {
   return numbers;
 }
 
+std::set<std::size_t> Folding::LinesOf(const Indices& indices) const {
+  std::set<std::size_t> lines;
+  for (const std::size_t i : indices)
+    lines.insert(findings_[i].line);
+  return lines;
+}
+
 void Folding::Fold(std::size_t cause, const Indices& consequences) {
   Finding& folded = findings_[cause];
   Sum sum(folded.effect);

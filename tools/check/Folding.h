@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "check/Finding.h"
@@ -40,6 +41,8 @@ class Folding {
   }
   /// The numbers of their subjects.
   std::set<std::int32_t> NumbersOf(const Indices& indices) const;
+
+  std::set<std::size_t> LinesOf(const Indices& indices) const;
 
   /// Takes the consequences out; the cause gets the worst severity and says what they come to.
   void Fold(std::size_t cause, const Indices& consequences);
@@ -81,6 +84,8 @@ void FoldIntoMeantKeys(Folding* folding);
 /// A count or list that is missing, wrong or too short for the keys of the file.
 void FoldIntoCount(Folding* folding, const std::string& governor);
 
+/// A key that is there more than twice.
+void JoinRepeatedKeys(Folding* folding);
 /// Keys with a number that is taken or that nothing asks for, where another number is missing.
 void JoinWrongNumbers(Folding* folding);
 /// Entries from 0 to one below the count, which are those from 1 to the count.
@@ -95,6 +100,8 @@ void JoinMissingModeKeys(Folding* folding);
 void JoinMissingSlotCodes(Folding* folding);
 /// A code that was copied, and the slots that name the one in its place.
 void FoldIntoSameCodes(Folding* folding);
+/// Slots that name one code which is not there.
+void JoinUnknownCodes(Folding* folding);
 /// Slots without ink and categories without slots, which nobody writes.
 void FoldSlots(Folding* folding);
 

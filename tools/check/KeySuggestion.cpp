@@ -48,11 +48,13 @@ std::size_t SlipsBetween(const std::string& a, const std::string& b) {
   return rows[a.size() % 3][b.size()];
 }
 
-/// Whether one name goes on where the other ends.
+/// Whether one name has words more than the other, behind it or, where it is long, before it.
 bool Extends(const std::string& a, const std::string& b) {
   const std::string& shorter = a.size() < b.size() ? a : b;
   const std::string& longer = a.size() < b.size() ? b : a;
-  return shorter.size() >= 5 && longer.compare(0, shorter.size(), shorter) == 0;
+  const std::size_t before = longer.size() - shorter.size();
+  return (shorter.size() >= 5 && longer.compare(0, shorter.size(), shorter) == 0) ||
+         (shorter.size() >= 7 && longer.compare(before, shorter.size(), shorter) == 0);
 }
 
 /// Whether the first of the words behind the number is the same: Slice of SliceSize.

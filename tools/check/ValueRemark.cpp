@@ -20,9 +20,11 @@ std::size_t MarkLength(std::string_view rest) {
   return rest.substr(0, 2) == "//" || rest.substr(0, 2) == "--" ? 2 : 0;
 }
 
-/// Whether the remark can go above its line: it is to be text that any encoding writes alike.
-bool IsPlain(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 0x7F; });
+/// Whether the remark can go above its line: all of it is known, and any encoding writes it alike.
+bool IsPlain(const LineIndex& lines, std::string_view text) {
+  const bool isKnown = !lines.IsUtf16() || text.find('?') == std::string_view::npos;
+  return isKnown &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 0x7F; });
 }
 
 }  // namespace
@@ -65,7 +67,7 @@ void AddRemark(const Check& check, const KeyLine& line, const std::string& key, 
       isEndMark ? "remove it" : "write it above in a line that begins with ;");
   finding.column = column + remark.mark + 1;
   finding.certainty = Certainty::Likely;
-  if (!remark.isSure || line.hasNul || !IsPlain(remark.text)) return;
+  if (!remark.isSure || line.hasNul || !IsPlain(check.reading.lines, remark.text)) return;
   finding.certainty = Certainty::Certain;
   if (!remark.text.empty())
     finding.edits.push_back({line.number, 0, 0, "; " + std::string(remark.text) + '\n'});

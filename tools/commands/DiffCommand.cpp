@@ -1,5 +1,6 @@
 #include "commands/DiffCommand.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>

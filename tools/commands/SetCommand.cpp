@@ -20,6 +20,7 @@
 #include "edit/Assignment.h"
 #include "edit/FindingChanges.h"
 #include "edit/KeyNames.h"
+#include "files/Arguments.h"
 #include "files/FileTransfer.h"
 #include "files/TextForms.h"
 #include "keys/KeyFacts.h"
@@ -53,6 +54,10 @@ void CheckName(const std::string& argument, const std::string& name) {
 }
 
 std::vector<Assignment> AssignmentsOf(const SetOptions& options) {
+  if (!HasWholeArguments()) {
+    throw Mistake("the command line", "has a character that the system's code page lacks",
+                  "leave it out, or write it with an editor into a definition in UTF-16");
+  }
   std::vector<Assignment> assignments;
   for (const std::string& change : options.changes) {
     const std::size_t equals = change.find('=');

@@ -5,7 +5,6 @@
 #include "TavrinVersion.h"
 #include "check/FileReport.h"
 #include "check/FindingLimit.h"
-#include "check/Ignores.h"
 #include "check/Rules.h"
 #include "sheet/Elements.h"
 #include "sheet/InkSection.h"
@@ -23,9 +22,7 @@ Html OrNotHandedOut(const std::optional<std::string>& text) {
 
 /// What check finds in the definition without options.
 Findings FindingsIn(const DefinitionFacts& facts) {
-  Findings findings = FindAll(facts.definition.reading);
-  DropIgnored(IgnoredBy(facts.definition.reading.lines), &findings);
-  return LimitFindings(std::move(findings), Severity::Warning);
+  return LimitFindings(FindAll(facts.definition.reading), Severity::Warning);
 }
 
 Html Verdict(const Findings& findings) {

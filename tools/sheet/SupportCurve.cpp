@@ -8,7 +8,7 @@ namespace tavrin::tool {
 
 namespace {
 
-constexpr double kRight = 424.0;
+constexpr double kRight = 412.0;
 constexpr double kTop = 30.0;
 constexpr double kBottom = 282.0;
 
