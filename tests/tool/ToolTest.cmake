@@ -61,6 +61,8 @@ refuse(4 "standard input: is named more than once" show - -)
 refuse(3 "missing: does not exist" show minimal.dat missing minimal.ini)
 check("several files, one of them missing" output STREQUAL
   "== minimal.dat ==\n\n${shown}\n== minimal.ini ==\n\n${shown}")
+run(show --format=json missing missing)
+check("an array of none" result EQUAL 3 AND output STREQUAL "[]\n")
 succeed(show --all full-colour.ini)
 expect_shown("Support extent 2.000 mm" "Cutting margin thickness 0.400 mm"
   "Colour thickness of mode 10 0.800 mm" " 30 Light Cyan none" " 202 SB-100 1, 2"

@@ -59,7 +59,8 @@ ExitStatus Show(const ShowOptions& options) {
       status = std::max(status, ReportFailure(error));
     }
   }
-  if (!definitions.empty()) Print(definitions, options);
+  const bool isArray = options.format == "json" && options.files.size() > 1;
+  if (isArray || !definitions.empty()) Print(definitions, options);
   for (const DefinitionFacts& facts : definitions) {
     if (facts.printer.HasIdentity()) continue;
     const Failure failure(NameOfInput(facts.file), PrinterFacts::kNoIdentity,
