@@ -84,4 +84,9 @@ if(PROJECT_IS_TOP_LEVEL)
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
   install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT documentation
     FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+  if(TARGET tavrin_reference)
+    get_target_property(reference_dir tavrin_reference BINARY_DIR)
+    install(DIRECTORY ${reference_dir}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
+      COMPONENT documentation OPTIONAL)
+  endif()
 endif()

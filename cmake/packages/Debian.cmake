@@ -5,11 +5,12 @@ set(control ${PROJECT_BINARY_DIR}/debian)
 set(CPACK_TAVRIN_DEBIAN_CONTROL ${control})
 set(CPACK_TAVRIN_DEBIAN_LIBRARY
   usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/libTavrinLib.so.${PROJECT_VERSION})
-set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/packages/DebianFiles.cmake)
+list(PREPEND CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/packages/DebianFiles.cmake)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SOURCE tavrinlib)
 
 # tavrin_debian_package(<component> <package> <section> <Multi-Arch> <summary> <description>)

@@ -14,9 +14,15 @@ function(run)
   execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${control} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# What a host depends on follows from the exports that it uses.
+# What dpkg's tools take for the directory of a source package.
 file(REMOVE_RECURSE ${control})
 file(WRITE ${control}/debian/control "Source: tavrinlib\n\nPackage: ${package}\nArchitecture: any\n")
+
+# Beside the symbols that no one needs cpack leaves the compiler's name.
+file(GLOB programs ${stage}/tool/usr/bin/*)
+run(strip --remove-section=.comment ${stage}/debian_runtime/${library} ${programs})
+
+# What a host depends on follows from the exports that it uses.
 configure_file(${CMAKE_CURRENT_LIST_DIR}/symbols.in ${control}/template @ONLY)
 run(dpkg-gensymbols -q -c4 -p${package} -v${version} -P${stage}/debian_runtime
   -e${stage}/debian_runtime/${library} -I${control}/template -O${control}/symbols)
@@ -48,6 +54,7 @@ endif()
 file(REMOVE_RECURSE ${stage}/debian_runtime/DEBIAN ${stage}/tool/DEBIAN)
 
 # The manual pages and what changed, compressed, for which the time in them has to go.
+set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} upper)
@@ -57,8 +64,21 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     "  * Release ${version}. What changed stands in CHANGELOG.md, which comes with the\n"
     "    package tavrinlib-doc.\n\n"
     " -- ${CPACK_PACKAGE_CONTACT}  ${date}\n")
+  file(CHMOD ${documents}/changelog PERMISSIONS ${readable})
   file(GLOB pages ${stage}/${component}/usr/share/man/man*/*)
   run(gzip -9n ${documents}/changelog ${pages})
 endforeach()
 set(documents ${stage}/debian_development/usr/share/doc/libtavrinlib-dev)
 file(CREATE_LINK ../${name}/examples ${documents}/examples SYMBOLIC)
+set(share ${stage}/documentation/usr/share)
+if(EXISTS ${share}/doc/${name}/html)
+  file(WRITE ${share}/doc-base/tavrinlib-doc.tavrinlib
+    "Document: tavrinlib\n"
+    "Title: The interface of TavrinLib\n"
+    "Abstract: What host software learns of a full-colour 3D inkjet printer, and how.\n"
+    "Section: Programming/C++\n\n"
+    "Format: HTML\n"
+    "Index: /usr/share/doc/${name}/html/index.html\n"
+    "Files: /usr/share/doc/${name}/html/*.html\n")
+  file(CHMOD ${share}/doc-base/tavrinlib-doc.tavrinlib PERMISSIONS ${readable})
+endif()
