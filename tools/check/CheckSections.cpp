@@ -19,12 +19,16 @@ struct Section {
   std::vector<const KeyLine*> keys = {};
   bool hasKnownKey = false;
   bool hasVersion = false;
+  bool isForPrinter = false;  ///< it has a key that other programs' sections hardly have
 
   void Add(const Check& check, const KeyLine& key) {
     std::int32_t number = 0;
     keys.push_back(&key);
-    hasKnownKey = hasKnownKey || check.reading.KnownKeyOf(key.name, &number) != nullptr;
-    hasVersion = hasVersion || (Folded(key.name) == "version" && !key.value.empty());
+    const bool isKnown = check.reading.KnownKeyOf(key.name, &number) != nullptr;
+    const bool isVersion = Folded(key.name) == "version";
+    hasKnownKey = hasKnownKey || isKnown;
+    hasVersion = hasVersion || (isVersion && !key.value.empty());
+    isForPrinter = isForPrinter || (isKnown && !isVersion && Folded(key.name) != "mode");
   }
 };
 
@@ -160,6 +164,10 @@ const Section* MissingSection::Find() const {
     } else {
       Add(section.keys.front()->number, 0, 0,
           std::string("the header of section ") + kHeader + " is missing", section);
+    }
+    if (!section.isForPrinter) {
+      check_.findings->back().certainty = Certainty::Likely;
+      check_.findings->back().edits.clear();
     }
     return &section;
   }
