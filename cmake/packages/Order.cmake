@@ -12,7 +12,7 @@ foreach(archive IN LISTS CPACK_PACKAGE_FILES)
   if(CPACK_GENERATOR STREQUAL "TGZ")
     execute_process(
       COMMAND tar --create --sort=name --mtime=@$ENV{SOURCE_DATE_EPOCH}
-        --owner=0 --group=0 --numeric-owner ${CPACK_PACKAGE_FILE_NAME}
+        --owner=0 --group=0 --numeric-owner --mode=go=rX ${CPACK_PACKAGE_FILE_NAME}
       COMMAND gzip -9n
       WORKING_DIRECTORY ${directory} OUTPUT_FILE ${archive} COMMAND_ERROR_IS_FATAL ANY)
   else()

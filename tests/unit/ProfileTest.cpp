@@ -67,6 +67,16 @@ TEST(Profile, NamesFoldTheLettersAlone) {
   }
 }
 
+TEST(Profile, NamesOfAnyLengthAreFound) {
+  const TestFolder folder;
+  for (std::size_t length = 40; length <= 60; ++length) {
+    const std::string name(length, 'k');
+    const auto path = Wide(folder.Write("a.ini", "[s]\n" + name + "=v\n"));
+    EXPECT_EQ(Read(path, L"s", Wide(name).c_str()), L"v") << length;
+    EXPECT_EQ(Read(path, L"s", Wide(name + "k").c_str()), L"") << length;
+  }
+}
+
 TEST(Profile, KeysAreListedInTheirOrder) {
   const TestFolder folder;
   const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\nK=v\n;c\nL=\n[T]\nM=v\n")));
