@@ -43,8 +43,10 @@ if(FORMAT STREQUAL "elf")
   names(needed "${dump}" "NEEDED +[^\n]+" "NEEDED +")
   ask(symbols ${NM} -D --undefined-only --format=posix ${PROGRAM})
   names(used "\n${symbols}" "\nTavrin[^ \n]+" "\n")
-  # Everything carries the version of its major version, which is a symbol too.
+  # Everything carries the version of its major version, which is a symbol too. LLVM's nm lets that
+  # carry itself.
   set(version TAVRINLIB_${MAJOR})
+  list(TRANSFORM exported REPLACE "^${version}@@${version}$" ${version})
   set(expected_used ${function})
   list(TRANSFORM expected_used APPEND @${version})
   set(expected_exported ${function} ${elf})

@@ -21,7 +21,7 @@ succeed(decipher keystream.dat zeros.ini)
 file(READ ${WORK}/zeros.ini zeros HEX)
 string(REPEAT 0 64 expected)
 check("keystream" zeros STREQUAL expected)
-succeed(encipher --force zeros.ini zeros.dat)
+succeed(encipher zeros.ini zeros.dat)
 expect_same(zeros.dat keystream.dat)
 
 foreach(example full-colour compact minimal)

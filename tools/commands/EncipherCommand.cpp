@@ -29,16 +29,18 @@ void TellFindings(const std::string& ini, const Findings& findings) {
   PrintText(ini + ": " + Counted(count, "finding") + " that tavrin check tells\n");
 }
 
-/// Refuses what no printer could use: a definition that is enciphered already, and all that does
-/// not load, such as the message that a pipeline got in place of a definition.
+/// Refuses a definition that no printer could use: one that is enciphered, or that does not load.
+/// What shows no definition at all passes, so that a damaged file can be turned back and forth.
 ///
 /// @return what there is to find in one that loads.
 Findings CheckPlain(const std::string& ini, const Bytes& bytes) {
-  if (ContainerOf(bytes) == Container::Enciphered) {
+  const auto container = ContainerOf(bytes);
+  if (container == Container::Enciphered) {
     throw Failure(ini, "is enciphered already",
                   "name the plain file first, or --force enciphers it once more",
                   ExitStatus::Errors);
   }
+  if (container != Container::Plain) return {};
   const Reading reading(bytes);
   Findings findings = FindAll(reading);
   if (reading.loads) return findings;
