@@ -34,6 +34,12 @@ void CheckType(const std::string& file, std::filesystem::file_status status) {
   }
 }
 
+/// The cipher counts bytes in 32 bits.
+void CheckLength(const std::string& file, std::uintmax_t length) {
+  if (length > std::numeric_limits<std::uint32_t>::max())
+    throw Failure(file, "is larger than 4294967295 bytes", "no definition can be that long");
+}
+
 std::filesystem::file_status StatusOf(const std::string& file) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(ToPath(file), error);
@@ -108,9 +114,7 @@ std::uint32_t CheckInput(const std::string& file) {
   const std::uintmax_t size = std::filesystem::file_size(ToPath(file), error);
   if (error) throw Failure(file, "has no size: " + error.message(), "check its permissions");
   if (size == 0) throw Failure(file, "is empty", "name a file with content");
-  if (size > std::numeric_limits<std::uint32_t>::max()) {
-    throw Failure(file, "is larger than 4294967295 bytes", "no definition can be that long");
-  }
+  CheckLength(file, size);
   return static_cast<std::uint32_t>(size);
 }
 
@@ -180,8 +184,10 @@ Bytes ReadStandardInput() {
   Bytes bytes;
   unsigned char piece[4096];
   std::size_t n = 0;
-  while ((n = std::fread(piece, 1, sizeof piece, stdin)) > 0)
+  while ((n = std::fread(piece, 1, sizeof piece, stdin)) > 0) {
     bytes.insert(bytes.end(), piece, piece + n);
+    CheckLength("standard input", bytes.size());
+  }
   if (std::ferror(stdin) != 0) {
     throw Failure("standard input", "cannot be read: " + SystemMessage(),
                   "check where it comes from");

@@ -29,7 +29,7 @@ Bytes ReadFile(const std::string& file);
 /// What stands for standard input and output where a file is to be named.
 inline constexpr char kStandardStream[] = "-";
 
-/// Reads standard input to its end, or refuses it when it is empty.
+/// Reads standard input to its end, or refuses it when it is empty or longer than a file can be.
 Bytes ReadStandardInput();
 
 /// Reads the file, or standard input.
