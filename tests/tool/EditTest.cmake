@@ -12,7 +12,8 @@ file(WRITE ${WORK}/nothing "nothing\n")
 find_program(SCRIPT script)
 
 string(CONCAT ini "; a comment\n[printer]\n  PrintMargin = 5.0  \n;;\nVersion=\"1\"\nVersion=2\nHeadBandSize=53,7mm\n"
-  "Mode=1\nMode1=1,1\nMode1SliceSize=0.1\nMode1ColorThickness=1\n[other]\nVersion=3")
+  "Mode=1\nMode1=1,1\nMode1SliceSize=0.1\nMode1ColorThickness=1\n"
+  "headbandsize = 1\n[other]\nHeadBandSize=3\nVersion=3")
 file(WRITE ${WORK}/edit.ini "${ini}")
 succeed(encipher edit.ini edit.dat)
 
@@ -35,6 +36,7 @@ check("a value of what does not load" output STREQUAL "a\n")
 set(wanted "${ini}")
 string(REPLACE "PrintMargin = 5.0  \n" "PrintMargin = 7  \n" wanted "${wanted}")
 string(REPLACE "HeadBandSize=53,7mm\n" "" wanted "${wanted}")
+string(REPLACE "headbandsize = 1\n" "" wanted "${wanted}")
 string(REPLACE "Mode1ColorThickness=1\n" "Mode1ColorThickness=1\nModelName=\" a=b \"\n" wanted "${wanted}")
 string(REPLACE "\"1\"\n" "4\n" wanted "${wanted}")
 find_program(ICONV iconv)

@@ -22,13 +22,16 @@ struct Place {
 };
 
 /// A new key goes behind the last one of its section, or else behind the section's comments.
+///
+/// @param previous a line of the key that was found before, for the next one.
 template <typename Encoding, typename Unit = typename Encoding::Unit>
 Place<Unit> FindPlace(std::basic_string_view<Unit> text, std::wstring_view section,
-                      std::wstring_view key, Encoding* encoding) {
-  Place<Unit> place{text.size(), text.size()};
-  bool hasKeys = false;
+                      std::wstring_view key, Encoding* encoding,
+                      const Place<Unit>& previous = {0, Encoding::kMarkLength}) {
+  Place<Unit> place{text.size(), text.size(), 0, previous.hasSection};
+  bool hasKeys = previous.hasKey;
   std::wstring wide;
-  std::basic_string_view<Unit> rest = text.substr(Encoding::kMarkLength);
+  std::basic_string_view<Unit> rest = text.substr(previous.end);
   while (!rest.empty()) {
     const std::size_t begin = text.size() - rest.size();
     const std::basic_string_view<Unit> units = TakeLine(&rest);
@@ -95,8 +98,13 @@ std::string EditInPlace(const std::string& bytes, std::wstring_view section, std
   std::basic_string<Unit> text = Encoding::FromBytes(bytes);
   Place<Unit> place = FindPlace(View(text), section, key, &encoding);
   if (value == nullptr) {
-    for (; place.hasKey; place = FindPlace(View(text), section, key, &encoding))
-      text.erase(place.begin, place.end - place.begin);
+    std::basic_string<Unit> kept;
+    std::size_t end = 0;
+    for (; place.hasKey; place = FindPlace(View(text), section, key, &encoding, place)) {
+      kept.append(text, end, place.begin - end);
+      end = place.end;
+    }
+    text = kept.append(text, end);
   } else if (place.hasKey) {
     std::basic_string<Unit> units;
     encoding.AppendUnits(value, &units);
