@@ -5,6 +5,7 @@
 #include <functional>
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
@@ -16,10 +17,13 @@
 namespace {
 
 bool transfersAreSlow = false;
+/// Whether a process that another thread starts meanwhile would have had a file of them open.
+bool filesAreInherited = false;
 
 /// Interrupts every other transfer and cuts the rest to seven bytes.
-bool Interrupts(std::size_t* n) {
+bool Interrupts(int file, std::size_t* n) {
   static bool interrupts = false;
+  if (transfersAreSlow && (fcntl(file, F_GETFD) & FD_CLOEXEC) == 0) filesAreInherited = true;
   interrupts = transfersAreSlow && !interrupts;
   if (interrupts) errno = EINTR;
   if (transfersAreSlow) *n = std::min<std::size_t>(*n, 7);
@@ -31,13 +35,13 @@ bool Interrupts(std::size_t* n) {
 // In place of the C library's, for the shared library too.
 extern "C" __attribute__((visibility("default"))) ssize_t read(int file, void* block, size_t n) {
   static const auto real = reinterpret_cast<decltype(&read)>(dlsym(RTLD_NEXT, "read"));
-  return Interrupts(&n) ? -1 : real(file, block, n);
+  return Interrupts(file, &n) ? -1 : real(file, block, n);
 }
 
 extern "C" __attribute__((visibility("default"))) ssize_t pwrite(int file, const void* block,
                                                                  size_t n, off_t offset) {
   static const auto real = reinterpret_cast<decltype(&pwrite)>(dlsym(RTLD_NEXT, "pwrite"));
-  return Interrupts(&n) ? -1 : real(file, block, n, offset);
+  return Interrupts(file, &n) ? -1 : real(file, block, n, offset);
 }
 
 namespace tavrin::test {
@@ -235,6 +239,7 @@ TEST_F(SystemFault, InterruptedTransfersOfAFewBytesAreGoneOnWith) {
   const std::wstring profile = WideCopy(folder.Write("a.ini", "[S]\r\nKey=1\r\n"));
   EXPECT_TRUE(platform::WriteProfileValue(L"S", L"A key", L"a value", profile.c_str()));
   transfersAreSlow = false;
+  EXPECT_FALSE(filesAreInherited);
   EXPECT_EQ(AskEverything(), answers);
   EXPECT_EQ(ReadWhole(folder.PathOf("a.ini")), "[S]\r\nKey=1\r\nA key=a value\r\n");
   ExpectAllInOrder();
