@@ -180,13 +180,6 @@ std::string LinesOf(const std::string& file, const Findings& findings, const std
   return lines;
 }
 
-std::string Describe(const Reading& before, const Reading& after) {
-  if (!after.loads) return "The definition does not load.\n";
-  if (!before.loads) return "The definition loads now.\n";
-  const std::string changes = ChangesAsText(CompareFacts(ListFacts(before), ListFacts(after)));
-  return changes.empty() ? "The printer gets the same.\n" : changes;
-}
-
 void Write(const std::string& file, Container container, Bytes plain) {
   if (container == Container::Enciphered)
     plain = Ciphered(NameOfInput(file), std::move(plain), EncryptBuffer);
@@ -217,7 +210,7 @@ ExitStatus Set(const SetOptions& options) {
   const FindingChanges findings(before.reading, after);
   if (!options.isForced) CheckOutcome(name, after, findings.brought, assignments);
   Write(options.file, before.container, plain);
-  const std::string report = Describe(before.reading, after) +
+  const std::string report = OutcomeAsText(before.reading, after) +
                              LinesOf(options.file, findings.mended, "mended: ") +
                              LinesOf(options.file, findings.brought, "new: ");
   if (isPassedOn) {

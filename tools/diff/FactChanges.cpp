@@ -164,4 +164,11 @@ std::string ChangesAsText(const FactChanges& changes) {
   return text;
 }
 
+std::string OutcomeAsText(const Reading& before, const Reading& after) {
+  if (!after.loads) return "The definition does not load.\n";
+  if (!before.loads) return "The definition loads now.\n";
+  const std::string changes = ChangesAsText(CompareFacts(ListFacts(before), ListFacts(after)));
+  return changes.empty() ? "The printer gets the same.\n" : changes;
+}
+
 }  // namespace tavrin::tool

@@ -32,4 +32,7 @@ FactChanges CompareFacts(const std::vector<Fact>& before, const std::vector<Fact
 /// The changes for people, a line each under the titles of their groups; empty when there is none.
 std::string ChangesAsText(const FactChanges& changes);
 
+/// What a change of a definition comes to, for people.
+std::string OutcomeAsText(const Reading& before, const Reading& after);
+
 }  // namespace tavrin::tool
