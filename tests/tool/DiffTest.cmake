@@ -46,6 +46,19 @@ foreach(list documented printed)
 endforeach()
 check("JSON: fields ${printed}, documented: ${documented}" printed STREQUAL documented)
 
+# In long definitions fewer keys can be tried.
+string(REPEAT ";\n" 25000 comments)
+foreach(side old new)
+  set(text "[printer]\nVersion=${side}\nNumOfColor=30\n${comments}")
+  foreach(number RANGE 10 30)
+    string(APPEND text "Color0${number}Code=${number}\nColor0${number}Name=${side}\n")
+  endforeach()
+  file(WRITE ${WORK}/diff/long.${side} "${text}")
+endforeach()
+run(diff --lines diff/long.old diff/long.new)
+check("more than can be tried" output MATCHES
+  "\nWithout effect\n  perhaps more, as too many keys differ for trying each\n$")
+
 refuse(2 "no-version.ini: has no Version" diff minimal.ini no-version.ini)
 refuse(3 "missing: does not exist" diff missing minimal.ini)
 refuse(4 "standard input: is named more than once" diff - -)

@@ -5,6 +5,7 @@
 #include <map>
 #include <string_view>
 
+#include "LineAlignment.h"
 #include "check/Rules.h"
 #include "files/TextForms.h"
 
@@ -132,30 +133,14 @@ std::string DifferenceOf(const std::string& file, const Bytes& before, const Byt
       taken += sign + Printable(lines[i]) + '\n';
     return taken;
   };
-  const auto add = [&](std::size_t begin, std::size_t oldEnd, std::size_t nowEnd) {
-    const auto range = [begin](std::size_t end) {
-      return std::to_string(end == begin ? begin : begin + 1) + ',' + std::to_string(end - begin);
-    };
-    difference += "@@ -" + range(oldEnd) + " +" + range(nowEnd) + " @@\n";
-    difference += take(old, begin, oldEnd, '-') + take(now, begin, nowEnd, '+');
+  const auto range = [](std::size_t begin, std::size_t end) {
+    return std::to_string(end == begin ? begin : begin + 1) + ',' + std::to_string(end - begin);
   };
-  if (old.size() != now.size()) {
-    // A line that was put in moves those after it; then all from the first change to the last.
-    const auto begin =
-        std::mismatch(old.begin(), old.end(), now.begin(), now.end()).first - old.begin();
-    const auto last =
-        std::mismatch(old.rbegin(), old.rend() - begin, now.rbegin(), now.rend() - begin);
-    add(static_cast<std::size_t>(begin), static_cast<std::size_t>(old.rend() - last.first),
-        static_cast<std::size_t>(now.rend() - last.second));
-    return difference;
-  }
-  for (std::size_t begin = 0; begin < old.size(); ++begin) {
-    std::size_t end = begin;
-    while (end < old.size() && old[end] != now[end])
-      ++end;
-    if (end == begin) continue;
-    add(begin, end, end);
-    begin = end;
+  for (const LineDifference& lines : AlignLines(old, now)) {
+    difference += "@@ -" + range(lines.oldBegin, lines.oldEnd) + " +" +
+                  range(lines.newBegin, lines.newEnd) + " @@\n" +
+                  take(old, lines.oldBegin, lines.oldEnd, '-') +
+                  take(now, lines.newBegin, lines.newEnd, '+');
   }
   return difference;
 }

@@ -32,7 +32,7 @@ struct Difference {
   DefinitionReading before;
   DefinitionReading after;
   FactChanges changes;
-  std::vector<LineChange> lines = {};
+  IdleLines idle = {};
   std::vector<std::string> others = {};
 };
 
@@ -50,7 +50,7 @@ Difference Compare(const DiffOptions& options) {
   if (options.withLines) {
     const Reading& old = difference.before.reading;
     const Reading& now = difference.after.reading;
-    difference.lines = FindIdleLines(old, now);
+    difference.idle = FindIdleLines(old, now);
     difference.others = OtherDifferences(old, now);
   }
   return difference;
@@ -58,12 +58,14 @@ Difference Compare(const DiffOptions& options) {
 
 std::string AsText(const Difference& difference) {
   std::string text = ChangesAsText(difference.changes);
-  if (difference.lines.empty() && difference.others.empty()) return text;
+  const IdleLines& idle = difference.idle;
+  if (idle.lines.empty() && idle.areAll && difference.others.empty()) return text;
   text += "Without effect\n";
-  for (const LineChange& line : difference.lines) {
+  for (const LineChange& line : idle.lines) {
     text += std::string("  ") + (line.isNew ? '+' : '-') + std::to_string(line.number) + ": " +
             Printable(line.text) + '\n';
   }
+  if (!idle.areAll) text += "  perhaps more, as too many keys differ for trying each\n";
   for (const std::string& other : difference.others)
     text += "  " + other + '\n';
   return text;
@@ -120,11 +122,12 @@ std::string AsJson(const Difference& difference, const DiffOptions& options) {
                {"changes", changes}};
   if (options.withLines) {
     json["lines"] = Json::array();
-    for (const LineChange& line : difference.lines) {
+    for (const LineChange& line : difference.idle.lines) {
       json["lines"].push_back({{"side", line.isNew ? "new" : "old"},
                                {"line", line.number},
                                {"text", ToUtf8(line.text)}});
     }
+    json["linesComplete"] = difference.idle.areAll;
     json["otherDifferences"] = difference.others;
   }
   return json.dump(2, ' ', true, Json::error_handler_t::replace) + '\n';

@@ -1,9 +1,12 @@
 #include "diff/IdleLines.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
+#include <utility>
 
+#include "LineAlignment.h"
 #include "definition/TextConversion.h"
 #include "diff/FactChanges.h"
 #include "edit/Assignment.h"
@@ -12,97 +15,54 @@ namespace tavrin::tool {
 
 namespace {
 
-/// Which lines of two texts belong together; the others are in one alone.
-class Alignment {
- public:
-  Alignment(const std::vector<std::string>& before, const std::vector<std::string>& after)
-      : before_(before), after_(after) {
-    while (begin_ < std::min(before.size(), after.size()) && before[begin_] == after[begin_])
-      ++begin_;
-    while (tail_ < std::min(before.size(), after.size()) - begin_ &&
-           before[before.size() - 1 - tail_] == after[after.size() - 1 - tail_])
-      ++tail_;
-    Measure();
+std::vector<LineChange> ChangedLines(const std::vector<std::string>& before,
+                                     const std::vector<std::string>& after) {
+  std::vector<LineChange> changes;
+  for (const LineDifference& difference : AlignLines(before, after)) {
+    for (std::size_t i = difference.oldBegin; i < difference.oldEnd; ++i)
+      changes.push_back({false, i + 1, before[i]});
+    for (std::size_t i = difference.newBegin; i < difference.newEnd; ++i)
+      changes.push_back({true, i + 1, after[i]});
   }
+  return changes;
+}
 
-  std::vector<LineChange> Changes() const {
-    std::vector<LineChange> changes;
-    std::size_t i = 0;
-    std::size_t j = 0;
-    const auto takeOld = [&] {
-      changes.push_back({false, begin_ + i + 1, before_[begin_ + i]});
-      ++i;
-    };
-    const auto takeNew = [&] {
-      changes.push_back({true, begin_ + j + 1, after_[begin_ + j]});
-      ++j;
-    };
-    while (i < Rows() && j < Columns()) {
-      if (before_[begin_ + i] == after_[begin_ + j]) {
-        ++i;
-        ++j;
-      } else if (CommonFrom(i + 1, j) >= CommonFrom(i, j + 1)) {
-        takeOld();
-      } else {
-        takeNew();
-      }
-    }
-    while (i < Rows())
-      takeOld();
-    while (j < Columns())
-      takeNew();
-    return changes;
-  }
-
- private:
-  std::size_t Rows() const { return before_.size() - begin_ - tail_; }
-  std::size_t Columns() const { return after_.size() - begin_ - tail_; }
-  std::uint32_t CommonFrom(std::size_t i, std::size_t j) const {
-    return lengths_.empty() ? 0 : lengths_[i * (Columns() + 1) + j];
-  }
-
-  /// The length of the longest common sequence from every pair of lines on. Texts that differ in
-  /// more lines than any definition has are taken as they come.
-  void Measure() {
-    constexpr std::size_t kMost = 4096;
-    if (Rows() > kMost || Columns() > kMost) return;
-    const std::size_t width = Columns() + 1;
-    lengths_.resize((Rows() + 1) * width);
-    for (std::size_t i = Rows(); i-- > 0;) {
-      for (std::size_t j = Columns(); j-- > 0;) {
-        lengths_[i * width + j] =
-            before_[begin_ + i] == after_[begin_ + j]
-                ? lengths_[(i + 1) * width + j + 1] + 1
-                : std::max(lengths_[(i + 1) * width + j], lengths_[i * width + j + 1]);
-      }
-    }
-  }
-
-  const std::vector<std::string>& before_;
-  const std::vector<std::string>& after_;
-  std::size_t begin_ = 0;  ///< lines alike at the start
-  std::size_t tail_ = 0;   ///< and at the end
-  std::vector<std::uint32_t> lengths_;
-};
+bool IsSame(const WatchedRead& before, const WatchedRead& after) {
+  if (before.text == after.text) return true;
+  return before.converted && after.converted && before.number == after.number &&
+         std::signbit(before.number) == std::signbit(after.number);
+}
 
 /// Tells of keys whether what one definition has for them instead of the other matters.
 class Effects {
  public:
-  Effects(const Reading& before, const Reading& after) : before_(before), after_(after) {}
+  Effects(const Reading& before, const Reading& after)
+      : before_(before),
+        after_(after),
+        triesLeft_(kMostLinesTried / (before.lines.Lines().size() + after.lines.Lines().size())) {}
 
+  /// A key that could not be tried counts as one that matters.
   bool IsOf(const std::string& key) {
     const auto known = byKey_.find(Folded(key));
     if (known != byKey_.end()) return known->second;
     const WatchedRead* before = before_.Find(key);
     const WatchedRead* after = after_.Find(key);
     if (before == nullptr && after == nullptr) return false;
-    if (before != nullptr && after != nullptr && before->text == after->text) return false;
+    if (before != nullptr && after != nullptr && IsSame(*before, *after)) return false;
+    areAllTried_ = areAllTried_ && triesLeft_ > 0;
+    if (triesLeft_ == 0) return true;
+    --triesLeft_;
     // In one of them the key may wait for another, say for its mode to be listed.
     const bool matters = Matters(before_, after_, key) || Matters(after_, before_, key);
     return byKey_[Folded(key)] = matters;
   }
 
+  bool AreAllTried() const { return areAllTried_; }
+
  private:
+  /// Each try reads a definition anew: some seconds in all.
+  static constexpr std::size_t kMostLinesTried = 1'000'000;
+
   static std::optional<std::string> ValueIn(const Reading& reading, const std::string& key) {
     const WatchedRead* read = reading.Find(key);
     if (read != nullptr && read->found) return NarrowCopy(read->text);
@@ -118,6 +78,8 @@ class Effects {
   const Reading& before_;
   const Reading& after_;
   std::map<std::string, bool> byKey_;
+  std::size_t triesLeft_;
+  bool areAllTried_ = true;
 };
 
 /// The key that counts in the line; empty when there is none.
@@ -149,15 +111,15 @@ std::string EncodingOf(const Reading& reading) {
 
 }  // namespace
 
-std::vector<LineChange> FindIdleLines(const Reading& before, const Reading& after) {
-  std::vector<LineChange> changes = Alignment(before.lines.Lines(), after.lines.Lines()).Changes();
+IdleLines FindIdleLines(const Reading& before, const Reading& after) {
+  std::vector<LineChange> changes = ChangedLines(before.lines.Lines(), after.lines.Lines());
   Effects effects(before, after);
   const auto hasEffect = [&](const LineChange& change) {
     const std::string key = KeyIn(change.isNew ? after : before, change.number);
     return !key.empty() && effects.IsOf(key);
   };
   changes.erase(std::remove_if(changes.begin(), changes.end(), hasEffect), changes.end());
-  return changes;
+  return {std::move(changes), effects.AreAllTried()};
 }
 
 std::vector<std::string> OtherDifferences(const Reading& before, const Reading& after) {

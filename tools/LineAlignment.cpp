@@ -1,0 +1,169 @@
+#include "LineAlignment.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <map>
+#include <utility>
+
+namespace tavrin::tool {
+
+namespace {
+
+/// A number for each text, the same for the same.
+using Lines = std::vector<std::size_t>;
+
+struct Pair {
+  std::size_t old;
+  std::size_t now;
+};
+
+class Alignment {
+ public:
+  Alignment(const std::vector<std::string>& before, const std::vector<std::string>& after) {
+    std::map<std::string, std::size_t> numbers;
+    for (const std::string& line : before)
+      old_.push_back(numbers.emplace(line, numbers.size()).first->second);
+    for (const std::string& line : after)
+      now_.push_back(numbers.emplace(line, numbers.size()).first->second);
+    Align({0, old_.size(), 0, now_.size()}, 0);
+  }
+
+  std::vector<LineDifference> TakeDifferences() { return std::move(differences_); }
+
+ private:
+  void Align(LineDifference part, int depth) {
+    constexpr std::size_t kMostCells = std::size_t{1} << 20;
+    constexpr int kMostDepth = 100;
+    for (; part.oldBegin < part.oldEnd && part.newBegin < part.newEnd &&
+           old_[part.oldBegin] == now_[part.newBegin];
+         ++part.oldBegin)
+      ++part.newBegin;
+    for (; part.oldBegin < part.oldEnd && part.newBegin < part.newEnd &&
+           old_[part.oldEnd - 1] == now_[part.newEnd - 1];
+         --part.oldEnd)
+      --part.newEnd;
+    const std::size_t rows = part.oldEnd - part.oldBegin;
+    const std::size_t columns = part.newEnd - part.newBegin;
+    if (rows == 0 || columns == 0) {
+      Add(part);
+      return;
+    }
+    const bool isSmall = rows <= kMostCells / columns;
+    // A text may be made to have a line to hold on to between any two.
+    const std::vector<Pair> common = isSmall              ? LongestCommonSequence(part)
+                                     : depth < kMostDepth ? Anchors(part)
+                                                          : std::vector<Pair>();
+    const auto take = [&](const LineDifference& gap) {
+      if (isSmall || common.empty()) {
+        Add(gap);
+      } else {
+        Align(gap, depth + 1);
+      }
+    };
+    for (const Pair& pair : common) {
+      take({part.oldBegin, pair.old, part.newBegin, pair.now});
+      part.oldBegin = pair.old + 1;
+      part.newBegin = pair.now + 1;
+    }
+    take(part);
+  }
+
+  void Add(const LineDifference& difference) {
+    if (difference.oldBegin == difference.oldEnd && difference.newBegin == difference.newEnd)
+      return;
+    differences_.push_back(difference);
+  }
+
+  std::vector<Pair> LongestCommonSequence(const LineDifference& part) const {
+    const std::size_t rows = part.oldEnd - part.oldBegin;
+    const std::size_t columns = part.newEnd - part.newBegin;
+    const std::size_t width = columns + 1;
+    // How long it is from every pair of lines on.
+    std::vector<std::uint32_t> lengths((rows + 1) * width);
+    const auto isSame = [&](std::size_t i, std::size_t j) {
+      return old_[part.oldBegin + i] == now_[part.newBegin + j];
+    };
+    for (std::size_t i = rows; i-- > 0;) {
+      for (std::size_t j = columns; j-- > 0;) {
+        lengths[i * width + j] =
+            isSame(i, j) ? lengths[(i + 1) * width + j + 1] + 1
+                         : std::max(lengths[(i + 1) * width + j], lengths[i * width + j + 1]);
+      }
+    }
+    std::vector<Pair> common;
+    for (std::size_t i = 0, j = 0; i < rows && j < columns;) {
+      if (isSame(i, j)) {
+        common.push_back({part.oldBegin + i++, part.newBegin + j++});
+      } else if (lengths[(i + 1) * width + j] >= lengths[i * width + j + 1]) {
+        ++i;
+      } else {
+        ++j;
+      }
+    }
+    return common;
+  }
+
+  /// The lines that either text has once, as many as follow each other in both.
+  std::vector<Pair> Anchors(const LineDifference& part) const {
+    struct Places {
+      std::size_t oldCount = 0;
+      std::size_t newCount = 0;
+      Pair pair = {};
+    };
+    std::map<std::size_t, Places> places;
+    for (std::size_t i = part.oldBegin; i < part.oldEnd; ++i) {
+      Places& line = places[old_[i]];
+      ++line.oldCount;
+      line.pair.old = i;
+    }
+    for (std::size_t j = part.newBegin; j < part.newEnd; ++j) {
+      Places& line = places[now_[j]];
+      ++line.newCount;
+      line.pair.now = j;
+    }
+    std::vector<Pair> pairs;
+    for (const auto& [number, line] : places) {
+      if (line.oldCount == 1 && line.newCount == 1) pairs.push_back(line.pair);
+    }
+    std::sort(pairs.begin(), pairs.end(),
+              [](const Pair& a, const Pair& b) { return a.old < b.old; });
+    return LongestRising(pairs);
+  }
+
+  /// Of pairs in the order of the old lines the most whose new lines are in order as well.
+  static std::vector<Pair> LongestRising(const std::vector<Pair>& pairs) {
+    constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+    std::vector<std::size_t> lasts;  // by length, the pair with the first new line that ends one
+    std::vector<std::size_t> previous(pairs.size(), kNone);
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+      const auto place = std::lower_bound(
+          lasts.begin(), lasts.end(), pairs[i].now,
+          [&](std::size_t last, std::size_t line) { return pairs[last].now < line; });
+      if (place != lasts.begin()) previous[i] = *std::prev(place);
+      if (place == lasts.end()) {
+        lasts.push_back(i);
+      } else {
+        *place = i;
+      }
+    }
+    std::vector<Pair> rising;
+    for (std::size_t i = lasts.empty() ? kNone : lasts.back(); i != kNone; i = previous[i])
+      rising.push_back(pairs[i]);
+    std::reverse(rising.begin(), rising.end());
+    return rising;
+  }
+
+  Lines old_;
+  Lines now_;
+  std::vector<LineDifference> differences_;
+};
+
+}  // namespace
+
+std::vector<LineDifference> AlignLines(const std::vector<std::string>& before,
+                                       const std::vector<std::string>& after) {
+  return Alignment(before, after).TakeDifferences();
+}
+
+}  // namespace tavrin::tool
