@@ -18,17 +18,17 @@
 #include "commands/TemplateCommand.h"
 #include "files/FileTransfer.h"
 
-namespace {
+namespace tavrin::tool {
 
-using tavrin::tool::ExitStatus;
+namespace {
 
 ExitStatus Run(int argc, char** argv) {
   CLI::App app("Makes, reads and shows the printer definition files of TavrinLib", "tavrin");
   // A path that starts with a slash is a path everywhere.
   app.allow_windows_style_options(false);
   app.set_version_flag("--version", "tavrin " TAVRIN_VERSION_STRING, "Print the version");
-  app.failure_message(tavrin::tool::MistakeMessage);
-  tavrin::tool::SetHelpForm(&app);
+  app.failure_message(MistakeMessage);
+  SetHelpForm(&app);
   app.footer(
       "A command's own help tells more: tavrin help check. Where a help names a document, such as\n"
       "docs/check.md, it lies with the others in " TAVRIN_DOCUMENTS
@@ -39,18 +39,12 @@ ExitStatus Run(int argc, char** argv) {
     if (app.get_subcommands().empty()) throw CLI::RequiredError("A command");
   });
   ExitStatus status = ExitStatus::NothingToReport;
-  tavrin::tool::AddCheck(&app, &status);
-  tavrin::tool::AddEncipher(&app);
-  tavrin::tool::AddDecipher(&app);
-  tavrin::tool::AddShow(&app, &status);
-  tavrin::tool::AddDiff(&app, &status);
-  tavrin::tool::AddGet(&app, &status);
-  tavrin::tool::AddSet(&app, &status);
-  tavrin::tool::AddKeys(&app);
-  tavrin::tool::AddTemplate(&app);
-  tavrin::tool::AddHelp(&app);
-  if (argc > 1 && argv[1] == std::string_view(tavrin::tool::kComplete)) {
-    tavrin::tool::PrintText(tavrin::tool::Completions(app, {argv + 2, argv + argc}));
+  for (const Command& command :
+       {CheckCommand(), EncipherCommand(), DecipherCommand(), ShowCommand(), DiffCommand(),
+        GetCommand(), SetCommand(), KeysCommand(), TemplateCommand(), HelpCommand(&app)})
+    AddCommand(command, &app, &status);
+  if (argc > 1 && argv[1] == std::string_view(kComplete)) {
+    PrintText(Completions(app, {argv + 2, argv + argc}));
     return ExitStatus::NothingToReport;
   }
   try {
@@ -63,9 +57,11 @@ ExitStatus Run(int argc, char** argv) {
 
 }  // namespace
 
+}  // namespace tavrin::tool
+
 int main(int argc, char** argv) {
   try {
-    return static_cast<int>(Run(argc, argv));
+    return static_cast<int>(tavrin::tool::Run(argc, argv));
   } catch (const std::exception& error) {
     return static_cast<int>(tavrin::tool::ReportFailure(error));
   }

@@ -5,7 +5,6 @@
 #include <iostream>
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,7 +17,6 @@
 #include "check/Ignores.h"
 #include "check/RuleList.h"
 #include "check/Rules.h"
-#include "commands/CommandLine.h"
 #include "commands/FixCommand.h"
 #include "files/DefinitionFiles.h"
 #include "files/FileTransfer.h"
@@ -34,7 +32,7 @@ const std::map<std::string, Severity> kThresholds = {
 struct CheckOptions {
   std::vector<std::string> files;
   std::string threshold = "warning";
-  std::set<std::string> ignored;
+  std::vector<std::string> ignored;
   std::string container = "any";
   std::string color = "auto";
   std::string format = "text";
@@ -63,7 +61,7 @@ Findings FindingsIn(const DefinitionReading& definition, const CheckOptions& opt
   DropIgnored(IgnoredBy(definition.reading.lines), &findings);
   const Findings found = FindAll(definition.reading);
   findings.insert(findings.end(), found.begin(), found.end());
-  DropIgnored(options.ignored, &findings);
+  DropIgnored({options.ignored.begin(), options.ignored.end()}, &findings);
   return LimitFindings(std::move(findings), kThresholds.at(options.threshold));
 }
 
@@ -140,44 +138,37 @@ std::string MistakeInId(const std::string& id) {
 
 }  // namespace
 
-void AddCheck(CLI::App* app, ExitStatus* status) {
+Command CheckCommand() {
   const auto options = std::make_shared<CheckOptions>();
-  CLI::App* command = app->add_subcommand(
-      "check", "Tell what the library makes of definitions, and what in them goes wrong");
-  command
-      ->add_option("FILE", options->files,
-                   "Plain INI files and printer definitions, and directories, of which all\n"
-                   "*.ini and *.dat are checked; - is standard input")
-      ->required();
-  AddChoice(command, "--format", &options->format, {"text", "json", "sarif", "github"},
-            "What is printed");
-  AddChoice(command, "--threshold", &options->threshold, {"note", "warning", "error"},
-            "The least severity that is reported and counts");
-  command
-      ->add_option("--ignore", options->ignored,
-                   "Ids of findings that are neither reported nor count")
-      ->type_name("ID,...")
-      ->delimiter(',')
-      ->allow_extra_args(false)
-      ->check(CLI::Validator(MistakeInId, ""));
-  AddChoice(command, "--container", &options->container, {"any", "plain", "enciphered"},
-            "What a file must be, or else it is an error");
-  AddChoice(command, "--color", &options->color, {"auto", "always", "never"},
-            "Whether severities are coloured; auto: on a terminal, unless NO_COLOR is\n"
-            "set or TERM is dumb");
-  CLI::Option* quiet =
-      command->add_flag("--quiet", options->isQuiet,
-                        "Print neither findings nor what --fix changes; the exit status tells");
-  CLI::Option* fix = command->add_flag(
-      "--fix", options->fixes,
-      "Follow the remedies that are certain, in the files themselves, and print what\n"
-      "that changes");
-  command
-      ->add_flag("--diff", options->showsDifference,
-                 "Print what --fix would change, in place of findings; change nothing")
-      ->excludes(fix)
-      ->excludes(quiet);
-  command->footer(
+  Argument ignored = {"--ignore", &options->ignored,
+                      "Ids of findings that are neither reported nor count"};
+  ignored.kind = "ID,...";
+  ignored.isCommaSeparated = true;
+  ignored.mistakeIn = MistakeInId;
+  Argument difference = {"--diff", &options->showsDifference,
+                         "Print what --fix would change, in place of findings; change nothing"};
+  difference.excluded = {"--fix", "--quiet"};
+  return {
+      "check",
+      "Tell what the library makes of definitions, and what in them goes wrong",
+      {Required("FILE", &options->files,
+                "Plain INI files and printer definitions, and directories, of which all\n"
+                "*.ini and *.dat are checked; - is standard input"),
+       Choice("--format", &options->format, {"text", "json", "sarif", "github"}, "What is printed"),
+       Choice("--threshold", &options->threshold, {"note", "warning", "error"},
+              "The least severity that is reported and counts"),
+       ignored,
+       Choice("--container", &options->container, {"any", "plain", "enciphered"},
+              "What a file must be, or else it is an error"),
+       Choice("--color", &options->color, {"auto", "always", "never"},
+              "Whether severities are coloured; auto: on a terminal, unless NO_COLOR is\n"
+              "set or TERM is dumb"),
+       {"--quiet", &options->isQuiet,
+        "Print neither findings nor what --fix changes; the exit status tells"},
+       {"--fix", &options->fixes,
+        "Follow the remedies that are certain, in the files themselves, and print what\n"
+        "that changes"},
+       difference},
       "A finding is a line file:line:column: severity: key: what happened, what the printer\n"
       "gets instead, what to do [id]. An error keeps the definition from loading or a query\n"
       "from answering; a warning is something written that has no effect, or a surprising one;\n"
@@ -185,8 +176,8 @@ void AddCheck(CLI::App* app, ExitStatus* status) {
       "where the library stops reading it. docs/check.md explains every id and the formats.\n"
       "A comment '; tavrin-check: ignore ID' in a definition silences an id there.\n\n"
       "Example: tavrin check printer.ini\n"
-      "         tavrin check --format=sarif definitions > findings.sarif");
-  command->callback([options, status] { *status = CheckFiles(*options); });
+      "         tavrin check --format=sarif definitions > findings.sarif",
+      [options] { return CheckFiles(*options); }};
 }
 
 }  // namespace tavrin::tool

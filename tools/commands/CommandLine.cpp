@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <system_error>
+#include <variant>
+#include <vector>
 
 #include "Failure.h"
 #include "Spelling.h"
@@ -76,13 +79,44 @@ bool IsOption(const std::string& argument) {
   return argument.size() > 1 && argument.front() == '-';
 }
 
+CLI::Option* Add(CLI::App* command, const Argument& argument, bool* value) {
+  return command->add_flag(argument.name, *value, argument.meaning);
+}
+
+CLI::Option* Add(CLI::App* command, const Argument& argument, std::string* value) {
+  if (argument.choices.empty()) return command->add_option(argument.name, *value, argument.meaning);
+  return command
+      ->add_option(argument.name, *value, argument.meaning + "; " + *value + " without it")
+      ->type_name(CLI::detail::join(argument.choices, "|"))
+      ->check(CLI::IsMember(argument.choices).description(""));
+}
+
+CLI::Option* Add(CLI::App* command, const Argument& argument, std::optional<std::string>* value) {
+  return command->add_option(argument.name, *value, argument.meaning);
+}
+
+CLI::Option* Add(CLI::App* command, const Argument& argument, std::vector<std::string>* value) {
+  CLI::Option* option = command->add_option(argument.name, *value, argument.meaning);
+  if (argument.isCommaSeparated) option->delimiter(',');
+  if (argument.mistakeIn) option->check(CLI::Validator(argument.mistakeIn, ""));
+  // Of an option, which may be given again, one at a time.
+  return IsOption(argument.name) ? option->type_name(argument.kind)->allow_extra_args(false)
+                                 : option;
+}
+
 }  // namespace
 
-CLI::Option* AddChoice(CLI::App* command, const std::string& name, std::string* value,
-                       const std::vector<std::string>& choices, const std::string& meaning) {
-  return command->add_option(name, *value, meaning + "; " + *value + " without it")
-      ->type_name(CLI::detail::join(choices, "|"))
-      ->check(CLI::IsMember(choices).description(""));
+void AddCommand(const Command& command, CLI::App* app, ExitStatus* status) {
+  CLI::App* added = app->add_subcommand(command.name, command.purpose);
+  for (const Argument& argument : command.arguments) {
+    CLI::Option* option =
+        std::visit([&](auto* value) { return Add(added, argument, value); }, argument.value);
+    option->required(argument.isRequired);
+    for (const std::string& switched : argument.excluded)
+      option->excludes(added->get_option(switched));
+  }
+  added->footer(command.notes);
+  added->callback([run = command.run, status] { *status = run(); });
 }
 
 void SetHelpForm(CLI::App* app) {
@@ -93,25 +127,27 @@ void SetHelpForm(CLI::App* app) {
   app->set_help_flag("-h,--help", "Print this help");
 }
 
-void AddHelp(CLI::App* app) {
+Command HelpCommand(CLI::App* app) {
   struct Options {
     std::string name;
     std::string format = "text";
   };
   const auto options = std::make_shared<Options>();
-  CLI::App* command = app->add_subcommand("help", "Print the help of a command");
-  command->add_option("COMMAND", options->name, "The command; without it the help lists all");
-  AddChoice(command, "--format", &options->format, {"text", "man"},
-            "Text to read as it is, or the source of a manual page");
-  command->footer(
-      "Example: tavrin help check\n"
-      "         tavrin help --format=man check | man -l -");
-  command->callback([app, options] {
-    const CLI::App* about = options->name.empty() ? app : FindCommand(*app, options->name);
-    PrintText(options->format == "man" ? ManualPage(*about)
-                                       : app->get_formatter()->make_help(
-                                             about, FullName(*about), CLI::AppFormatMode::Normal));
-  });
+  return {"help",
+          "Print the help of a command",
+          {{"COMMAND", &options->name, "The command; without it the help lists all"},
+           Choice("--format", &options->format, {"text", "man"},
+                  "Text to read as it is, or the source of a manual page")},
+          "Example: tavrin help check\n"
+          "         tavrin help --format=man check | man -l -",
+          [app, options] {
+            const CLI::App* about = options->name.empty() ? app : FindCommand(*app, options->name);
+            PrintText(options->format == "man"
+                          ? ManualPage(*about)
+                          : app->get_formatter()->make_help(about, FullName(*about),
+                                                            CLI::AppFormatMode::Normal));
+            return ExitStatus::NothingToReport;
+          }};
 }
 
 std::string MistakeMessage(const CLI::App* app, const CLI::Error& error) {

@@ -1,21 +1,21 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include "commands/Command.h"
+
 namespace tavrin::tool {
 
-/// Adds an option that takes one of the choices, of which value holds the default.
-CLI::Option* AddChoice(CLI::App* command, const std::string& name, std::string* value,
-                       const std::vector<std::string>& choices, const std::string& meaning);
+/// Adds a command to the tool. After it has run, status is what came of it.
+void AddCommand(const Command& command, CLI::App* app, ExitStatus* status);
 
 /// Gives the help of all commands one form, the exit statuses at its end.
 void SetHelpForm(CLI::App* app);
 
-/// Adds the command help, which prints the help of the others.
-void AddHelp(CLI::App* app);
+/// The command help, which prints the help of the tool's others.
+Command HelpCommand(CLI::App* app);
 
 /// What is wrong with the command line and what helps, as the one line that the user sees.
 std::string MistakeMessage(const CLI::App* app, const CLI::Error& error);

@@ -26,35 +26,34 @@ void CheckEnciphered(const std::string& definition, const Bytes& bytes) {
                 ExitStatus::Errors);
 }
 
-void Decipher(const std::string& definition, const std::string& ini, bool isForced) {
+ExitStatus Decipher(const std::string& definition, const std::string& ini, bool isForced) {
   CheckTransfer(definition, ini);
   Bytes bytes = ReadInput(definition);
   const std::string name = NameOfInput(definition);
   if (!isForced) CheckEnciphered(name, bytes);
   WriteOutput(ini, Ciphered(name, std::move(bytes), DecryptBuffer), kOwnerOnly);
+  return ExitStatus::NothingToReport;
 }
 
 }  // namespace
 
-void AddDecipher(CLI::App* app) {
+Command DecipherCommand() {
   struct Options {
     std::string definition;
     std::string ini = kStandardStream;
     bool isForced = false;
   };
   const auto options = std::make_shared<Options>();
-  CLI::App* command = app->add_subcommand("decipher", "Turn a printer definition into an INI file");
-  command
-      ->add_option("DEFINITION", options->definition, "The printer definition; - is standard input")
-      ->required();
-  command->add_option("INI", options->ini,
-                      "The INI file to write; standard output without it or with -");
-  command->add_flag("--force", options->isForced, "Put also a plain file through the cipher");
-  command->footer(
+  return {
+      "decipher",
+      "Turn a printer definition into an INI file",
+      {Required("DEFINITION", &options->definition, "The printer definition; - is standard input"),
+       {"INI", &options->ini, "The INI file to write; standard output without it or with -"},
+       {"--force", &options->isForced, "Put also a plain file through the cipher"}},
       "A new INI file can be read by its owner alone; one that is replaced keeps its permissions,\n"
       "and one that is read-only is not replaced.\n\n"
-      "Example: tavrin decipher printer.dat printer.ini");
-  command->callback([options] { Decipher(options->definition, options->ini, options->isForced); });
+      "Example: tavrin decipher printer.dat printer.ini",
+      [options] { return Decipher(options->definition, options->ini, options->isForced); }};
 }
 
 }  // namespace tavrin::tool

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command decipher, which turns a printer definition into a plain INI file.
-void AddDecipher(CLI::App* app);
+/// The command decipher, which turns a printer definition into a plain INI file.
+Command DecipherCommand();
 
 }  // namespace tavrin::tool

@@ -8,7 +8,6 @@
 #include <nlohmann/json.hpp>
 
 #include "check/DefinitionReading.h"
-#include "commands/CommandLine.h"
 #include "diff/FactChanges.h"
 #include "diff/IdleLines.h"
 #include "facts/LoadFailure.h"
@@ -142,26 +141,23 @@ ExitStatus Diff(const DiffOptions& options) {
 
 }  // namespace
 
-void AddDiff(CLI::App* app, ExitStatus* status) {
+Command DiffCommand() {
   const auto options = std::make_shared<DiffOptions>();
-  CLI::App* command = app->add_subcommand(
-      "diff", "Tell what changes for the printer from one definition to another");
-  command
-      ->add_option("OLD", options->before,
-                   "The definition before, enciphered or as a plain INI file; - is standard input")
-      ->required();
-  command->add_option("NEW", options->after, "The definition after")->required();
-  AddChoice(command, "--format", &options->format, {"text", "json"},
-            "Text for people or JSON for programs");
-  command->add_flag("--lines", options->withLines,
-                    "Print also the lines that differ without any effect");
-  command->footer(
+  return {
+      "diff",
+      "Tell what changes for the printer from one definition to another",
+      {Required("OLD", &options->before,
+                "The definition before, enciphered or as a plain INI file; - is standard input"),
+       Required("NEW", &options->after, "The definition after"),
+       Choice("--format", &options->format, {"text", "json"},
+              "Text for people or JSON for programs"),
+       {"--lines", &options->withLines, "Print also the lines that differ without any effect"}},
       "Values are compared as the library reads them, defaults included: 5.0 and 5.000 are the\n"
       "same. Those that no host gets are marked. The exit status is 1 when the printer gets\n"
       "something else, whatever the lines. docs/diff.md tells more, and how to use it with git.\n\n"
       "Example: tavrin diff printer.dat printer.ini\n"
-      "         tavrin diff --lines old.dat new.dat");
-  command->callback([options, status] { *status = Diff(*options); });
+      "         tavrin diff --lines old.dat new.dat",
+      [options] { return Diff(*options); }};
 }
 
 }  // namespace tavrin::tool

@@ -65,40 +65,40 @@ std::filesystem::perms PermissionsLike(const std::string& ini) {
          perms::owner_write;
 }
 
-void Encipher(const std::string& ini, const std::string& definition, bool isForced) {
+ExitStatus Encipher(const std::string& ini, const std::string& definition, bool isForced) {
   CheckTransfer(ini, definition);
   Bytes bytes = ReadInput(ini);
   const std::string name = NameOfInput(ini);
   const Findings findings = isForced ? Findings() : CheckPlain(name, bytes);
   WriteOutput(definition, Ciphered(name, std::move(bytes), EncryptBuffer), PermissionsLike(ini));
   if (definition != kStandardStream) TellFindings(name, findings);
+  return ExitStatus::NothingToReport;
 }
 
 }  // namespace
 
-void AddEncipher(CLI::App* app) {
+Command EncipherCommand() {
   struct Options {
     std::string ini;
     std::string definition;
     bool isForced = false;
   };
   const auto options = std::make_shared<Options>();
-  CLI::App* command = app->add_subcommand("encipher", "Make a printer definition from an INI file");
-  command->add_option("INI", options->ini, "The plain INI file; - is standard input")->required();
-  command
-      ->add_option("DEFINITION", options->definition,
-                   "The printer definition to write; - is standard output")
-      ->required();
-  command->add_flag("--force", options->isForced,
-                    "Encipher also what is enciphered already or would not load");
-  command->footer(
+  return {
+      "encipher",
+      "Make a printer definition from an INI file",
+      {Required("INI", &options->ini, "The plain INI file; - is standard input"),
+       Required("DEFINITION", &options->definition,
+                "The printer definition to write; - is standard output"),
+       {"--force", &options->isForced,
+        "Encipher also what is enciphered already or would not load"}},
       "A new definition gets the INI file's permissions; one that is replaced keeps its own, and\n"
       "one that is read-only is not replaced. A new one made of standard input can be read by its\n"
       "owner alone. What is refused or empty leaves the definition as it was. On a terminal, what\n"
       "tavrin check would tell is counted.\n\n"
       "Example: tavrin encipher printer.ini printer.dat\n"
-      "         tavrin decipher old.dat - | sed s/Cyan/Blue/ | tavrin encipher - new.dat");
-  command->callback([options] { Encipher(options->ini, options->definition, options->isForced); });
+      "         tavrin decipher old.dat - | sed s/Cyan/Blue/ | tavrin encipher - new.dat",
+      [options] { return Encipher(options->ini, options->definition, options->isForced); }};
 }
 
 }  // namespace tavrin::tool

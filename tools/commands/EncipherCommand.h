@@ -1,10 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command encipher, which makes a printer definition of a plain INI file that loads.
-void AddEncipher(CLI::App* app);
+/// The command encipher, which makes a printer definition of a plain INI file that loads.
+Command EncipherCommand();
 
 }  // namespace tavrin::tool

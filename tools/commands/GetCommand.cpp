@@ -111,28 +111,25 @@ ExitStatus Get(const std::string& file, const std::vector<std::string>& keys) {
 
 }  // namespace
 
-void AddGet(CLI::App* app, ExitStatus* status) {
+Command GetCommand() {
   struct Options {
     std::string file;
     std::vector<std::string> keys;
   };
   const auto options = std::make_shared<Options>();
-  CLI::App* command =
-      app->add_subcommand("get", "Print values of a definition as the library reads them");
-  command
-      ->add_option("FILE", options->file,
-                   "The definition, enciphered or as a plain INI file; - is standard input")
-      ->required();
-  command->add_option("KEY", options->keys,
-                      "The keys; without one, all that have a value in the definition");
-  command->footer(
+  return {
+      "get",
+      "Print values of a definition as the library reads them",
+      {Required("FILE", &options->file,
+                "The definition, enciphered or as a plain INI file; - is standard input"),
+       {"KEY", &options->keys, "The keys; without one, all that have a value in the definition"}},
       "Prints lines KEY=VALUE, as tavrin set takes them; of a single key the value alone. Of a\n"
       "number that is what the library takes for one: 53 of 53,7. A key without a value prints\n"
       "nothing, and the exit status is 1. tavrin show prints what the printer gets, defaults\n"
       "included.\n\n"
       "Example: tavrin get printer.dat\n"
-      "         tavrin get printer.dat Mode1SliceSize");
-  command->callback([options, status] { *status = Get(options->file, options->keys); });
+      "         tavrin get printer.dat Mode1SliceSize",
+      [options] { return Get(options->file, options->keys); }};
 }
 
 }  // namespace tavrin::tool

@@ -1,13 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
-#include "ExitStatus.h"
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command get, which prints the values of a definition's keys. After it has run, status
-/// is what came of it.
-void AddGet(CLI::App* app, ExitStatus* status);
+/// The command get, which prints the values of a definition's keys.
+Command GetCommand();
 
 }  // namespace tavrin::tool

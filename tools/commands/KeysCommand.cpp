@@ -14,7 +14,6 @@
 #include "Spelling.h"
 #include "check/LineIndex.h"
 #include "check/Rules.h"
-#include "commands/CommandLine.h"
 #include "files/FileTransfer.h"
 #include "keys/KeyFacts.h"
 #include "keys/KeyText.h"
@@ -126,7 +125,7 @@ std::string NearestShape(const std::string& name) {
       ->shape;
 }
 
-void PrintKeys(const KeysOptions& options) {
+ExitStatus PrintKeys(const KeysOptions& options) {
   std::vector<const KeyFacts*> keys;
   if (!options.key) {
     for (const KeyFacts& facts : ListKeyFacts())
@@ -146,25 +145,27 @@ void PrintKeys(const KeysOptions& options) {
   } else {
     PrintText(!options.key ? Overview(keys) : Description(*keys.front()));
   }
+  return ExitStatus::NothingToReport;
 }
 
 }  // namespace
 
-void AddKeys(CLI::App* app) {
+Command KeysCommand() {
   const auto options = std::make_shared<KeysOptions>();
-  CLI::App* command =
-      app->add_subcommand("keys", "Print what there is to know of the keys of a definition");
-  command->add_option("KEY", options->key,
-                      "The key to print in full, such as PrintMargin or Mode1SliceSize; all keys "
-                      "in brief without it");
-  AddChoice(command, "--format", &options->format, {"text", "json"},
-            "Text for people or JSON for programs");
-  command->footer(
+  return {
+      "keys",
+      "Print what there is to know of the keys of a definition",
+      {{"KEY", &options->key,
+        "The key to print in full, such as PrintMargin or Mode1SliceSize; all keys in brief "
+        "without "
+        "it"},
+       Choice("--format", &options->format, {"text", "json"},
+              "Text for people or JSON for programs")},
       "# in a key's name stands for a number. Values out of range are taken as they are, or as\n"
       "is said; tavrin check warns of them, and of those that no printer can use.\n\n"
       "Example: tavrin keys Mode1SliceSize\n"
-      "         tavrin keys --format=json");
-  command->callback([options] { PrintKeys(*options); });
+      "         tavrin keys --format=json",
+      [options] { return PrintKeys(*options); }};
 }
 
 }  // namespace tavrin::tool

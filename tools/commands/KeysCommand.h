@@ -1,10 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command keys, which prints what there is to know of the keys of a definition.
-void AddKeys(CLI::App* app);
+/// The command keys, which prints what there is to know of the keys of a definition.
+Command KeysCommand();
 
 }  // namespace tavrin::tool

@@ -223,30 +223,29 @@ ExitStatus Set(const SetOptions& options) {
 
 }  // namespace
 
-void AddSet(CLI::App* app, ExitStatus* status) {
+Command SetCommand() {
   const auto options = std::make_shared<SetOptions>();
-  CLI::App* command = app->add_subcommand("set", "Change keys of a definition in place");
-  command
-      ->add_option("FILE", options->file,
-                   "The definition, enciphered or as a plain INI file; with - standard input is\n"
-                   "changed into standard output")
-      ->required();
-  command->add_option("KEY=VALUE", options->changes,
-                      "The keys and the values that the library is to read of them");
-  command->add_option("--unset", options->unset, "Remove the key; may be given several times")
-      ->type_name("KEY")
-      ->allow_extra_args(false);
-  command->add_flag("--force", options->isForced,
-                    "Write also keys that nothing reads, and what would not load");
-  command->footer(
+  Argument unset = {"--unset", &options->unset, "Remove the key; may be given several times"};
+  unset.kind = "KEY";
+  return {
+      "set",
+      "Change keys of a definition in place",
+      {Required("FILE", &options->file,
+                "The definition, enciphered or as a plain INI file; with - standard input is\n"
+                "changed into standard output"),
+       {"KEY=VALUE", &options->changes,
+        "The keys and the values that the library is to read of them"},
+       unset,
+       {"--force", &options->isForced,
+        "Write also keys that nothing reads, and what would not load"}},
       "All changes are made or none. Every other byte stays: comments, order, line ends, "
       "encoding.\n"
       "The file is replaced in one step and keeps its permissions. Prints what changes for the\n"
       "printer, and the findings of tavrin check that the change mends or brings. The exit status\n"
       "is 1 when it brings warnings, 2 when it brings errors.\n\n"
       "Example: tavrin set printer.dat Mode1SliceSize=0.03 \"ModelName=Tavrin FC-500\"\n"
-      "         tavrin set printer.ini --unset DefaultMode");
-  command->callback([options, status] { *status = Set(*options); });
+      "         tavrin set printer.ini --unset DefaultMode",
+      [options] { return Set(*options); }};
 }
 
 }  // namespace tavrin::tool

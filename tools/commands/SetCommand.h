@@ -1,13 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
-#include "ExitStatus.h"
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command set, which changes keys of a definition in place. After it has run, status is
-/// what the change brings.
-void AddSet(CLI::App* app, ExitStatus* status);
+/// The command set, which changes keys of a definition in place.
+Command SetCommand();
 
 }  // namespace tavrin::tool

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "Failure.h"
-#include "commands/CommandLine.h"
 #include "facts/FactsJson.h"
 #include "facts/FactsText.h"
 #include "files/FileTransfer.h"
@@ -72,26 +71,24 @@ ExitStatus Show(const ShowOptions& options) {
 
 }  // namespace
 
-void AddShow(CLI::App* app, ExitStatus* status) {
+Command ShowCommand() {
   const auto options = std::make_shared<ShowOptions>();
-  CLI::App* command = app->add_subcommand("show", "Print what a printer definition says");
-  command
-      ->add_option("FILE", options->files,
-                   "Printer definitions, enciphered or as plain INI files; - is standard input")
-      ->required();
-  AddChoice(command, "--format", &options->format, {"text", "json", "html"},
-            "Text for people, JSON for programs, or a data sheet to look at or print");
-  command->add_flag("--all", options->showsAll,
-                    "Print also what the library reads and hands out to no host");
-  command->footer(
+  return {
+      "show",
+      "Print what a printer definition says",
+      {Required("FILE", &options->files,
+                "Printer definitions, enciphered or as plain INI files; - is standard input"),
+       Choice("--format", &options->format, {"text", "json", "html"},
+              "Text for people, JSON for programs, or a data sheet to look at or print"),
+       {"--all", &options->showsAll, "Print also what the library reads and hands out to no host"}},
       "Prints every answer that a host gets from the library, defaults included.\n"
       "docs/show-json.md describes the JSON. The data sheet is one HTML file that needs no "
       "other.\n\n"
       "Example: tavrin show printer.dat\n"
       "         tavrin show --all printer.ini\n"
       "         tavrin show --format=json printer.dat\n"
-      "         tavrin show --format=html printer.dat > printer.html");
-  command->callback([options, status] { *status = Show(*options); });
+      "         tavrin show --format=html printer.dat > printer.html",
+      [options] { return Show(*options); }};
 }
 
 }  // namespace tavrin::tool

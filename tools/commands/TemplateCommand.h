@@ -1,11 +1,11 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include "commands/Command.h"
 
 namespace tavrin::tool {
 
-/// Adds the command template, which prints a plain definition with every key explained that loads
-/// to the built-in defaults.
-void AddTemplate(CLI::App* app);
+/// The command template, which prints a plain definition with every key explained that loads to the
+/// built-in defaults.
+Command TemplateCommand();
 
 }  // namespace tavrin::tool
