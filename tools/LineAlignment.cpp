@@ -34,7 +34,7 @@ class Alignment {
  private:
   void Align(LineDifference part, int depth) {
     constexpr std::size_t kMostCells = std::size_t{1} << 20;
-    constexpr int kMostDepth = 100;
+    constexpr int kMostDepth = 8;
     for (; part.oldBegin < part.oldEnd && part.newBegin < part.newEnd &&
            old_[part.oldBegin] == now_[part.newBegin];
          ++part.oldBegin)
@@ -104,35 +104,32 @@ class Alignment {
     return common;
   }
 
-  /// The lines that either text has once, as many as follow each other in both.
+  /// The lines that either text has once, as many as follow each other in both; where there are
+  /// none, of lines that both have the first of the one with the first of the other, and so on.
   std::vector<Pair> Anchors(const LineDifference& part) const {
     struct Places {
-      std::size_t oldCount = 0;
-      std::size_t newCount = 0;
-      Pair pair = {};
+      std::vector<std::size_t> old;
+      std::vector<std::size_t> now;
     };
     std::map<std::size_t, Places> places;
-    for (std::size_t i = part.oldBegin; i < part.oldEnd; ++i) {
-      Places& line = places[old_[i]];
-      ++line.oldCount;
-      line.pair.old = i;
-    }
-    for (std::size_t j = part.newBegin; j < part.newEnd; ++j) {
-      Places& line = places[now_[j]];
-      ++line.newCount;
-      line.pair.now = j;
-    }
-    std::vector<Pair> pairs;
+    for (std::size_t i = part.oldBegin; i < part.oldEnd; ++i)
+      places[old_[i]].old.push_back(i);
+    for (std::size_t j = part.newBegin; j < part.newEnd; ++j)
+      places[now_[j]].now.push_back(j);
+    std::vector<Pair> once;
+    std::vector<Pair> often;
     for (const auto& [number, line] : places) {
-      if (line.oldCount == 1 && line.newCount == 1) pairs.push_back(line.pair);
+      std::vector<Pair>* pairs = line.old.size() == 1 && line.now.size() == 1 ? &once : &often;
+      for (std::size_t i = 0; i < std::min(line.old.size(), line.now.size()); ++i)
+        pairs->push_back({line.old[i], line.now[i]});
     }
-    std::sort(pairs.begin(), pairs.end(),
-              [](const Pair& a, const Pair& b) { return a.old < b.old; });
-    return LongestRising(pairs);
+    return LongestRising(once.empty() ? std::move(often) : std::move(once));
   }
 
-  /// Of pairs in the order of the old lines the most whose new lines are in order as well.
-  static std::vector<Pair> LongestRising(const std::vector<Pair>& pairs) {
+  /// The most of the pairs that are in the order of both texts.
+  static std::vector<Pair> LongestRising(std::vector<Pair> pairs) {
+    std::sort(pairs.begin(), pairs.end(),
+              [](const Pair& a, const Pair& b) { return a.old < b.old; });
     constexpr std::size_t kNone = static_cast<std::size_t>(-1);
     std::vector<std::size_t> lasts;  // by length, the pair with the first new line that ends one
     std::vector<std::size_t> previous(pairs.size(), kNone);

@@ -63,6 +63,11 @@ foreach(fixed IN LISTS known)
   expect_same(fixed/${definition} ${fixed})
 endforeach()
 
+# A diff that patch takes.
+file(WRITE ${WORK}/unended.ini "[printer]\nVersion=1\nHeadBandSize=5O.5")
+run(check --diff unended.ini)
+check("a last line without an end" output STREQUAL "--- unended.ini\n+++ unended.ini\n@@ -3,1 +3,1 @@\n-HeadBandSize=5O.5\n\\ No newline at end of file\n+HeadBandSize=50.5\n\\ No newline at end of file\nMachine\n  Head band 5 mm -> 50.5 mm\n")
+
 succeed(encipher number-meant.ini number-meant.dat)
 run(check --diff number-meant.dat)
 set(diff "${output}")

@@ -47,7 +47,7 @@ endforeach()
 check("JSON: fields ${printed}, documented: ${documented}" printed STREQUAL documented)
 
 # In long definitions fewer keys can be tried.
-string(REPEAT ";\n" 25000 comments)
+string(REPEAT ";; a line of some forty characters ;;;;;\n" 25000 comments)
 foreach(side old new)
   set(text "[printer]\nVersion=${side}\nNumOfColor=30\n${comments}")
   foreach(number RANGE 10 30)

@@ -70,6 +70,16 @@ TEST(LineAlignment, HoldsOnToTheLinesThatALongTextHasOnce) {
             "0-1/0-1 500-500/500-501 1000-1001/1001-1002 1500-1501/1501-1501 1502-1502/1502-1503 "
             "2000-2002/2001-2001 2999-3000/2998-2999");
 
+  // Lines that are there twice are as good where none is there once.
+  before.assign(1, "old");
+  for (int i = 0; i < 1200; ++i)
+    before.push_back(std::to_string(i % 600));
+  before.push_back("old");
+  after = before;
+  after.front() = after.back() = "new";
+  after.insert(after.begin() + 100, "0");
+  EXPECT_EQ(Differences(before, after), "0-1/0-1 100-100/100-101 1201-1202/1202-1203");
+
   // Nothing to hold on to.
   EXPECT_EQ(Differences(Lines(2000, "old"), Lines(1000, "new")), "0-2000/0-1000");
 }

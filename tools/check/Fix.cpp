@@ -47,13 +47,12 @@ Patch PatchOf(const Edit& edit, const LineIndex& lines, const std::string& lineE
 class Patches {
  public:
   /// Takes all of them or none.
-  bool Add(const std::vector<Patch>& patches) {
+  void Add(const std::vector<Patch>& patches) {
     if (!std::all_of(patches.begin(), patches.end(),
                      [this](const Patch& patch) { return IsFree(patch); }))
-      return false;
+      return;
     for (const Patch& patch : patches)
       byOffset_.emplace(patch.offset, patch);
-    return true;
   }
 
   Bytes ApplyTo(const Bytes& plain) const {
@@ -82,7 +81,7 @@ class Patches {
 
 /// Of findings that would change the same place the first is followed; the others come up again if
 /// anything is left of them.
-Bytes Follow(const Reading& reading, const Findings& findings, Findings* followed) {
+Bytes Follow(const Reading& reading, const Findings& findings) {
   Patches patches;
   const std::string lineEnd = LineEndOf(reading);
   for (const Finding& finding : findings) {
@@ -90,32 +89,40 @@ Bytes Follow(const Reading& reading, const Findings& findings, Findings* followe
     std::vector<Patch> own;
     for (const Edit& edit : finding.edits)
       own.push_back(PatchOf(edit, reading.lines, lineEnd));
-    if (patches.Add(own)) followed->push_back(finding);
+    patches.Add(own);
   }
   return patches.ApplyTo(reading.plain);
 }
+
+/// What stands behind a last line that has no end, on a line of its own.
+constexpr char kUnended[] = "\n\\ No newline at end of file";
 
 std::vector<std::string> LinesOf(const Bytes& plain) {
   std::vector<std::string> lines;
   const std::string text = TextOf(plain, TextFormat::Of(plain));
   for (std::string_view rest = text; !rest.empty();)
     lines.emplace_back(TakeLine(&rest));
+  if (!text.empty() && text.back() != '\n' && text.back() != '\r') lines.back() += kUnended;
   return lines;
+}
+
+std::string Signed(char sign, const std::string& line) {
+  const std::size_t end = line.find('\n');
+  return sign + Printable(line.substr(0, end)) + (end == std::string::npos ? "" : kUnended) + '\n';
 }
 
 }  // namespace
 
-Fix FollowCertainRemedies(const Reading& reading) {
+Bytes FollowCertainRemedies(const Reading& reading) {
   constexpr int kMostRounds = 10;  // remedies that undo each other shall not go on for ever
-  Fix fix;
-  fix.plain = Follow(reading, FindAll(reading), &fix.followed);
   Bytes before = reading.plain;
-  for (int round = 1; round < kMostRounds && fix.plain != before; ++round) {
-    before = fix.plain;
+  Bytes after = Follow(reading, FindAll(reading));
+  for (int round = 1; round < kMostRounds && after != before; ++round) {
+    before = after;
     const Reading next(before);
-    fix.plain = Follow(next, FindAll(next), &fix.followed);
+    after = Follow(next, FindAll(next));
   }
-  return fix;
+  return after;
 }
 
 std::string DifferenceOf(const std::string& file, const Bytes& before, const Bytes& after) {
@@ -130,7 +137,7 @@ std::string DifferenceOf(const std::string& file, const Bytes& before, const Byt
                        char sign) {
     std::string taken;
     for (std::size_t i = begin; i < end; ++i)
-      taken += sign + Printable(lines[i]) + '\n';
+      taken += Signed(sign, lines[i]);
     return taken;
   };
   const auto range = [](std::size_t begin, std::size_t end) {

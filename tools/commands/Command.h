@@ -23,7 +23,7 @@ struct Argument {
   bool isRequired = false;
   std::string kind = {};                  ///< what the help has for an option's value
   std::vector<std::string> choices = {};  ///< the values there are, where not all are one
-  bool isCommaSeparated = false;
+  bool isCommaSeparated = false;          ///< of a list
   /// What is wrong with a value; empty when nothing is.
   std::function<std::string(const std::string&)> mistakeIn = {};
   std::vector<std::string> excluded = {};  ///< switches listed before it that do not go with it

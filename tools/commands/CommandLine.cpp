@@ -84,11 +84,8 @@ CLI::Option* Add(CLI::App* command, const Argument& argument, bool* value) {
 }
 
 CLI::Option* Add(CLI::App* command, const Argument& argument, std::string* value) {
-  if (argument.choices.empty()) return command->add_option(argument.name, *value, argument.meaning);
-  return command
-      ->add_option(argument.name, *value, argument.meaning + "; " + *value + " without it")
-      ->type_name(CLI::detail::join(argument.choices, "|"))
-      ->check(CLI::IsMember(argument.choices).description(""));
+  const std::string otherwise = argument.choices.empty() ? "" : "; " + *value + " without it";
+  return command->add_option(argument.name, *value, argument.meaning + otherwise);
 }
 
 CLI::Option* Add(CLI::App* command, const Argument& argument, std::optional<std::string>* value) {
@@ -98,10 +95,8 @@ CLI::Option* Add(CLI::App* command, const Argument& argument, std::optional<std:
 CLI::Option* Add(CLI::App* command, const Argument& argument, std::vector<std::string>* value) {
   CLI::Option* option = command->add_option(argument.name, *value, argument.meaning);
   if (argument.isCommaSeparated) option->delimiter(',');
-  if (argument.mistakeIn) option->check(CLI::Validator(argument.mistakeIn, ""));
-  // Of an option, which may be given again, one at a time.
-  return IsOption(argument.name) ? option->type_name(argument.kind)->allow_extra_args(false)
-                                 : option;
+  // An option may be given again, with one value at a time.
+  return option->allow_extra_args(!IsOption(argument.name));
 }
 
 }  // namespace
@@ -112,6 +107,12 @@ void AddCommand(const Command& command, CLI::App* app, ExitStatus* status) {
     CLI::Option* option =
         std::visit([&](auto* value) { return Add(added, argument, value); }, argument.value);
     option->required(argument.isRequired);
+    if (!argument.kind.empty()) option->type_name(argument.kind);
+    if (!argument.choices.empty()) {
+      option->type_name(CLI::detail::join(argument.choices, "|"))
+          ->check(CLI::IsMember(argument.choices).description(""));
+    }
+    if (argument.mistakeIn) option->check(CLI::Validator(argument.mistakeIn, ""));
     for (const std::string& switched : argument.excluded)
       option->excludes(added->get_option(switched));
   }

@@ -33,7 +33,7 @@ std::filesystem::perms PermissionsOf(const std::string& file) {
 
 DefinitionReading FixInPlace(const std::string& file, const Bytes& definition, std::ostream& out) {
   DefinitionReading before = ReadDefinition(definition);
-  const Bytes fixed = FollowCertainRemedies(before.reading).plain;
+  const Bytes fixed = FollowCertainRemedies(before.reading);
   if (fixed == before.reading.plain) return before;
   DefinitionReading after = {Reading(fixed), before.container};
   const bool isPlain = before.container == Container::Plain;
@@ -43,7 +43,7 @@ DefinitionReading FixInPlace(const std::string& file, const Bytes& definition, s
 }
 
 void PreviewFix(const std::string& file, const Reading& reading, std::ostream& out) {
-  out << Describe(file, reading, Reading(FollowCertainRemedies(reading).plain));
+  out << Describe(file, reading, Reading(FollowCertainRemedies(reading)));
 }
 
 }  // namespace tavrin::tool

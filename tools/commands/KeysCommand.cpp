@@ -156,9 +156,8 @@ Command KeysCommand() {
       "keys",
       "Print what there is to know of the keys of a definition",
       {{"KEY", &options->key,
-        "The key to print in full, such as PrintMargin or Mode1SliceSize; all keys in brief "
-        "without "
-        "it"},
+        "The key to print in full, such as PrintMargin or Mode1SliceSize; all keys\n"
+        "in brief without it"},
        Choice("--format", &options->format, {"text", "json"},
               "Text for people or JSON for programs")},
       "# in a key's name stands for a number. Values out of range are taken as they are, or as\n"

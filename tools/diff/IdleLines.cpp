@@ -39,7 +39,7 @@ class Effects {
   Effects(const Reading& before, const Reading& after)
       : before_(before),
         after_(after),
-        triesLeft_(kMostLinesTried / (before.lines.Lines().size() + after.lines.Lines().size())) {}
+        triesLeft_(kMostBytesTried / (before.plain.size() + after.plain.size())) {}
 
   /// A key that could not be tried counts as one that matters.
   bool IsOf(const std::string& key) {
@@ -61,7 +61,7 @@ class Effects {
 
  private:
   /// Each try reads a definition anew: some seconds in all.
-  static constexpr std::size_t kMostLinesTried = 1'000'000;
+  static constexpr std::size_t kMostBytesTried = 20'000'000;
 
   static std::optional<std::string> ValueIn(const Reading& reading, const std::string& key) {
     const WatchedRead* read = reading.Find(key);

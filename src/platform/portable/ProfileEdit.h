@@ -29,7 +29,7 @@ Place<Unit> FindPlace(std::basic_string_view<Unit> text, std::wstring_view secti
                       std::wstring_view key, Encoding* encoding,
                       const Place<Unit>& previous = {0, Encoding::kMarkLength}) {
   Place<Unit> place{text.size(), text.size(), 0, previous.hasSection};
-  bool hasKeys = previous.hasKey;
+  bool hasKeys = false;
   std::wstring wide;
   std::basic_string_view<Unit> rest = text.substr(previous.end);
   while (!rest.empty()) {
