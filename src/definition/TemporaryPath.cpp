@@ -14,7 +14,8 @@ std::string CutToStem(const std::string& path) {
 }
 
 /// The same, looked for in wide text, as in double-byte encodings a second byte may look like a
-/// separator; in the bytes of what is no text in the user's encoding.
+/// separator; in the bytes of what is no text in the user's encoding, or spells a character in the
+/// other of two ways.
 std::string StemOf(const std::string& path) {
   const std::wstring wide = WideCopy(path);
   if (NarrowCopy(wide) != path) return CutToStem(path);

@@ -103,9 +103,8 @@ TEST(InkSection, EnormousCountsGiveTheEntriesThatAreThere) {
   std::string filler;
   for (int i = 0; i < 5000; ++i)
     filler += "FillerThatMakesTheListOfKeysLong" + std::to_string(i) + "=\n";
-  // The first line of a section has a part of its own in how Windows lists keys.
   const auto config = Parsed(
-      "= no name\n" + filler +
+      filler +
       "NumOfColor=2147483647\nColor2000000000Code=1\nColor2000000000Name=Far\n"
       "Color000Code=7\nColor000Name=Zero\n"
       "Color0000000003Code=2\nColor0000000003Name=Padded\ncolor010CODE=3\nCOLOR010name=Near\n"

@@ -1,5 +1,8 @@
 // What the file system of this platform can put in a library's way: links, pipes, directories.
+#include <atomic>
+#include <chrono>
 #include <csignal>
+#include <thread>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -60,13 +63,21 @@ TEST(PortableFiles, OnlyRegularFilesLoad) {
 TEST(PortableFiles, AFileOnWhichALeaseIsHeldLoads) {
   const TestFolder folder;
   const std::string path = folder.WriteEnciphered("printer.dat", Definition(""));
-  static int leased = -1;
-  leased = open(path.c_str(), O_RDWR | O_CLOEXEC);
-  // Who holds a lease is told by this signal that somebody wants the file.
-  std::signal(SIGIO, [](int) { fcntl(leased, F_SETLEASE, F_UNLCK); });
+  const int leased = open(path.c_str(), O_RDWR | O_CLOEXEC);
+  // Who holds a lease is told by this signal that somebody wants the file, and takes some time.
+  static std::atomic<bool> isWanted{false};
+  std::signal(SIGIO, [](int) { isWanted = true; });
   ASSERT_EQ(fcntl(leased, F_SETLEASE, F_WRLCK), 0);
+  std::thread holder([leased] {
+    while (!isWanted)
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    fcntl(leased, F_SETLEASE, F_UNLCK);
+  });
   EXPECT_TRUE(PrinterConfig().Load(path));
   EXPECT_EQ(fcntl(leased, F_GETLEASE), F_UNLCK) << "it was broken";
+  isWanted = true;
+  holder.join();
   std::signal(SIGIO, SIG_DFL);
   close(leased);
 }

@@ -147,6 +147,8 @@ TEST_F(PortableProfile, WritesTouchOneLine) {
     EXPECT_TRUE(Write(c.value, c.key)) << Escape(c.content);
     EXPECT_EQ(Escape(Content()), Escape(c.expected)) << Escape(c.content);
   }
+  EXPECT_EQ(Escape(platform::EditProfile(Utf16(u"[S]\nK=1\n") + "x", L"S", L"K", L"2")),
+            Escape(Utf16(u"[S]\nK=2\n") + "x"));
 }
 
 TEST_F(PortableProfile, AWriteThatFailsHalfWayIsTakenBack) {

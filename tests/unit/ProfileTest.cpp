@@ -79,10 +79,11 @@ TEST(Profile, NamesOfAnyLengthAreFound) {
 
 TEST(Profile, KeysAreListedInTheirOrder) {
   const TestFolder folder;
-  const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\nK=v\n;c\nL=\n[T]\nM=v\n")));
+  // A first line without a name hides the list from the call of Windows that gives names alone.
+  const ProfileReader reader(Wide(folder.Write("a.ini", "[S]\n= x\nK=v\n;c\nL=\n[T]\nM=v\n")));
   std::wstring names;
   reader.ListKeys(L" s ", [&](std::wstring_view name) { names.append(name).append(L"."); });
-  EXPECT_EQ(names, L"K.L.");
+  EXPECT_EQ(names, L".K.L.");
 }
 
 TEST(Profile, PathsThatAreNoFileReadAsEmptyAndRefuseWrites) {

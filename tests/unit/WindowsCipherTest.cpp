@@ -29,7 +29,11 @@ extern "C" {
 decltype(&CryptAcquireContextW) __imp_CryptAcquireContextW =
     [](HCRYPTPROV* provider, LPCWSTR container, LPCWSTR name, DWORD type, DWORD flags) {
       const Step step = flags == CRYPT_NEWKEYSET ? Step::AcquireNew : Step::Acquire;
-      return Unless(step, "CryptAcquireContextW", provider, container, name, type, DWORD{0});
+      const auto acquire = [&](DWORD how) {
+        return Unless(step, "CryptAcquireContextW", provider, container, name, type, how);
+      };
+      // A new container may be there already.
+      return acquire(flags) || (flags == CRYPT_NEWKEYSET && acquire(0)) ? TRUE : FALSE;
     };
 decltype(&CryptCreateHash) __imp_CryptCreateHash = [](auto... arguments) {
   return Unless(Step::CreateHash, "CryptCreateHash", arguments...);

@@ -22,7 +22,7 @@ class AskedName {
       long_.resize(asked.size());
       text = long_.data();
     }
-    std::uint32_t bits = 0;
+    std::uint32_t bits = 0;  // in one pass, which every read of a load makes twice
     for (std::size_t i = 0; i < asked.size(); ++i) {
       bits |= static_cast<std::uint32_t>(asked[i]);
       text[i] = static_cast<Char>(asked[i]);
