@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdarg>
 #include <functional>
 
 #include <dlfcn.h>
@@ -20,19 +21,33 @@ bool transfersAreSlow = false;
 /// Whether a process that another thread starts meanwhile would have had a file of them open.
 bool filesAreInherited = false;
 
-/// Interrupts every other transfer and cuts the rest to seven bytes.
-bool Interrupts(int file, std::size_t* n) {
+/// Of openings and transfers every other one.
+bool Interrupts() {
   static bool interrupts = false;
-  if (transfersAreSlow && (fcntl(file, F_GETFD) & FD_CLOEXEC) == 0) filesAreInherited = true;
   interrupts = transfersAreSlow && !interrupts;
   if (interrupts) errno = EINTR;
-  if (transfersAreSlow) *n = std::min<std::size_t>(*n, 7);
   return interrupts;
+}
+
+/// Cuts the transfers that it lets pass to seven bytes.
+bool Interrupts(int file, std::size_t* n) {
+  if (transfersAreSlow && (fcntl(file, F_GETFD) & FD_CLOEXEC) == 0) filesAreInherited = true;
+  if (transfersAreSlow) *n = std::min<std::size_t>(*n, 7);
+  return Interrupts();
 }
 
 }  // namespace
 
 // In place of the C library's, for the shared library too.
+extern "C" __attribute__((visibility("default"))) int open(const char* path, int flags, ...) {
+  static const auto real = reinterpret_cast<decltype(&open)>(dlsym(RTLD_NEXT, "open"));
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) == 0 ? 0 : va_arg(arguments, mode_t);
+  va_end(arguments);
+  return Interrupts() ? -1 : real(path, flags, mode);
+}
+
 extern "C" __attribute__((visibility("default"))) ssize_t read(int file, void* block, size_t n) {
   static const auto real = reinterpret_cast<decltype(&read)>(dlsym(RTLD_NEXT, "read"));
   return Interrupts(file, &n) ? -1 : real(file, block, n);
