@@ -11,7 +11,8 @@ class InkQueries : public ExportTest {};
 
 /// What a text operation of a slot hands out; the array must be as long as it says.
 std::string TextOf(const InkSlot& slot, bool (InkSlot::*get)(char**, std::int32_t*) const) {
-  char* text = nullptr;
+  char before = '\0';
+  char* text = &before;
   std::int32_t size = -1;
   EXPECT_TRUE((slot.*get)(&text, &size));
   if (text == nullptr) return "null of size " + std::to_string(size);
