@@ -149,6 +149,7 @@ TEST_F(PortableProfile, WritesTouchOneLine) {
   }
   EXPECT_EQ(Escape(platform::EditProfile(Utf16(u"[S]\nK=1\n") + "x", L"S", L"K", L"2")),
             Escape(Utf16(u"[S]\nK=2\n") + "x"));
+  EXPECT_EQ(platform::EditProfile("\n[S]", L"S", L"K", L"1"), "\n[S]\nK=1\n");
 }
 
 TEST_F(PortableProfile, AWriteThatFailsHalfWayIsTakenBack) {
