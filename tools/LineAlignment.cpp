@@ -117,13 +117,14 @@ class Alignment {
     for (std::size_t j = part.newBegin; j < part.newEnd; ++j)
       places[now_[j]].now.push_back(j);
     std::vector<Pair> once;
-    std::vector<Pair> often;
-    for (const auto& [number, line] : places) {
-      std::vector<Pair>* pairs = line.old.size() == 1 && line.now.size() == 1 ? &once : &often;
+    std::vector<Pair> all;
+    for (const auto& place : places) {
+      const Places& line = place.second;
+      if (line.old.size() == 1 && line.now.size() == 1) once.push_back({line.old[0], line.now[0]});
       for (std::size_t i = 0; i < std::min(line.old.size(), line.now.size()); ++i)
-        pairs->push_back({line.old[i], line.now[i]});
+        all.push_back({line.old[i], line.now[i]});
     }
-    return LongestRising(once.empty() ? std::move(often) : std::move(once));
+    return LongestRising(once.empty() ? std::move(all) : std::move(once));
   }
 
   /// The most of the pairs that are in the order of both texts.
